@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# Installs what eeprog needs to build, run and test, on Debian 12, if it is missing.
+# Sourced by run.sh and test.sh; run as root (or with sudo at hand).
+set -euo pipefail
+
+paquetes=(
+  cmake ninja-build g++ pkg-config
+  qt6-base-dev qt6-serialport-dev libqt6serialport6 qt6-qpa-plugins
+  libgtest-dev libgmock-dev libbenchmark-dev
+  fonts-liberation2 fonts-dejavu-core
+)
+
+faltan=()
+for paquete in "${paquetes[@]}"; do
+  if ! dpkg-query -W -f='${Status}' "$paquete" 2>/dev/null | grep -q 'install ok installed'; then
+    faltan+=("$paquete")
+  fi
+done
+
+if ((${#faltan[@]})); then
+  como=()
+  if [ "$(id -u)" -ne 0 ]; then como=(sudo); fi
+  echo "Instalando: ${faltan[*]}"
+  "${como[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -q
+  "${como[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${faltan[@]}"
+fi
