@@ -1,0 +1,113 @@
+#include "argumentos.h"
+
+#include <getopt.h>
+#include <cerrno>
+#include <cstdlib>
+#include <iostream>
+
+namespace eeprog {
+
+namespace {
+
+enum Opcion { imagen = 1, volcado, muda, silenciosa, ecoerroneo, ritmo, enlace, ayuda };
+
+const option opciones[] = {
+    {"imagen", required_argument, nullptr, imagen},
+    {"volcado", required_argument, nullptr, volcado},
+    {"muda", no_argument, nullptr, muda},
+    {"silenciosa", no_argument, nullptr, silenciosa},
+    {"eco-erroneo", required_argument, nullptr, ecoerroneo},
+    {"ritmo", no_argument, nullptr, ritmo},
+    {"enlace", required_argument, nullptr, enlace},
+    {"ayuda", no_argument, nullptr, ayuda},
+    {nullptr, 0, nullptr, 0},
+};
+
+std::optional<long> numeropositivo(const char* texto)
+{
+    char* fin = nullptr;
+    errno = 0;
+    long numero = std::strtol(texto, &fin, 10);
+    if (errno != 0 || fin == texto || *fin != '\0' || numero <= 0) {
+        return std::nullopt;
+    }
+    return numero;
+}
+
+bool tomar(int opcion, const char* valor, Argumentos& argumentos)
+{
+    switch (opcion) {
+    case imagen:
+        argumentos.imagen = valor;
+        return true;
+    case volcado:
+        argumentos.volcado = valor;
+        return true;
+    case muda:
+        argumentos.placa.muda = true;
+        return true;
+    case silenciosa:
+        argumentos.placa.silenciosa = true;
+        return true;
+    case ritmo:
+        argumentos.ritmo = true;
+        return true;
+    case enlace:
+        argumentos.enlace = valor;
+        return true;
+    case ayuda:
+        argumentos.ayuda = true;
+        return true;
+    case ecoerroneo:
+        if (auto numero = numeropositivo(valor)) {
+            argumentos.placa.ecoerroneo = *numero;
+            return true;
+        }
+        std::cerr << "eeprog-placa: --eco-erroneo pide un número mayor que 0: " << valor << '\n';
+        return false;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+std::optional<Argumentos> leerargumentos(int argc, char* argv[])
+{
+    Argumentos argumentos;
+    opterr = 0; // getopt's own messages are not in Spanish
+    optind = 1;
+    int opcion = 0;
+    while ((opcion = getopt_long(argc, argv, ":", opciones, nullptr)) != -1) {
+        if (!tomar(opcion, optarg, argumentos)) {
+            std::cerr << "eeprog-placa: opción no válida o sin su valor: " << argv[optind - 1] << '\n';
+            return std::nullopt;
+        }
+    }
+    if (optind < argc) {
+        std::cerr << "eeprog-placa: sobra el argumento " << argv[optind] << '\n';
+        return std::nullopt;
+    }
+    return argumentos;
+}
+
+std::string uso()
+{
+    return "Uso: eeprog-placa [OPCIONES]\n"
+           "Emula la placa programadora con su AT28C64B en un pseudoterminal.\n"
+           "La primera línea de la salida es la ruta del puerto; eeprog lo usa con\n"
+           "EEPROG_COM1=RUTA. La placa sigue activa hasta Ctrl+C.\n"
+           "\n"
+           "  --imagen ARCHIVO     contenido inicial del chip (binario, desde 0x0000)\n"
+           "  --volcado ARCHIVO    guarda el chip entero (8192 bytes) al terminar\n"
+           "  --enlace RUTA        crea también el enlace RUTA hacia el puerto\n"
+           "  --ritmo              responde al paso de una línea real de 9600 baudios\n"
+           "  --muda               no responde nunca\n"
+           "  --silenciosa         responde a la primera comprobación de cada sesión\n"
+           "                       y después se queda callada hasta que se reabre\n"
+           "  --eco-erroneo N      el N-ésimo byte de datos escrito se oye mal\n"
+           "                       (un bit cambiado): se guarda y se devuelve así\n"
+           "  --ayuda              muestra esta ayuda\n";
+}
+
+} // namespace eeprog

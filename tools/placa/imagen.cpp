@@ -1,0 +1,26 @@
+#include "imagen.h"
+
+#include <fstream>
+
+namespace eeprog {
+
+bool cargarimagen(const std::string& ruta, std::array<unsigned char, 8192>& chip)
+{
+    std::ifstream archivo(ruta, std::ios::binary);
+    if (!archivo) {
+        return false;
+    }
+    archivo.read(reinterpret_cast<char*>(chip.data()), static_cast<std::streamsize>(chip.size()));
+    // A short file only ends the read early; bad() is what a failed read sets (a directory, say).
+    return !archivo.bad();
+}
+
+bool volcarimagen(const std::string& ruta, const std::array<unsigned char, 8192>& chip)
+{
+    std::ofstream archivo(ruta, std::ios::binary | std::ios::trunc);
+    archivo.write(reinterpret_cast<const char*>(chip.data()), static_cast<std::streamsize>(chip.size()));
+    archivo.close();
+    return !archivo.fail();
+}
+
+} // namespace eeprog

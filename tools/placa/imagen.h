@@ -1,0 +1,17 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace eeprog {
+
+// A chip image is the chip's bytes, raw, from address 0.
+
+// A shorter file fills the chip from address 0 and leaves the rest as it was; a longer one
+// is cut at the chip's end. False when the file cannot be read.
+bool cargarimagen(const std::string& ruta, std::array<unsigned char, 8192>& chip);
+
+// Writes all 8192 bytes. False when the file cannot be written.
+bool volcarimagen(const std::string& ruta, const std::array<unsigned char, 8192>& chip);
+
+} // namespace eeprog

@@ -1,0 +1,88 @@
+// eeprog-placa: the programmer board, emulated on a pseudo-terminal, for trying eeprog
+// without the hardware.
+
+#include "argumentos.h"
+#include "enlacesimbolico.h"
+#include "imagen.h"
+#include "placa.h"
+#include "servidor.h"
+
+#include <csignal>
+#include <iostream>
+#include <signal.h>
+
+namespace {
+
+volatile std::sig_atomic_t terminar = 0;
+
+void alterminar(int)
+{
+    terminar = 1;
+}
+
+// Without SA_RESTART a signal breaks the wait on the terminal, so the end is prompt and
+// the dump and the link are dealt with before leaving.
+void instalarsenales()
+{
+    struct sigaction accion {};
+    accion.sa_handler = alterminar;
+    sigemptyset(&accion.sa_mask);
+    accion.sa_flags = 0;
+    for (int senal : {SIGINT, SIGTERM, SIGHUP}) {
+        sigaction(senal, &accion, nullptr);
+    }
+}
+
+int servir(eeprog::Placa& placa, const eeprog::Argumentos& argumentos)
+{
+    eeprog::Servidor servidor(placa, argumentos.ritmo);
+    if (!servidor.abrir()) {
+        std::cerr << "eeprog-placa: el sistema no da un pseudoterminal\n";
+        return 1;
+    }
+    if (!argumentos.enlace.empty() && !eeprog::enlazar(argumentos.enlace, servidor.ruta())) {
+        std::cerr << "eeprog-placa: no se puede crear el enlace " << argumentos.enlace << '\n';
+        return 1;
+    }
+    std::cout << servidor.ruta() << std::endl;
+    servidor.servir(terminar);
+    if (!argumentos.enlace.empty()) {
+        eeprog::desenlazar(argumentos.enlace, servidor.ruta());
+    }
+    return 0;
+}
+
+bool volcar(const eeprog::Placa& placa, const std::string& ruta)
+{
+    if (ruta.empty() || eeprog::volcarimagen(ruta, placa.chip())) {
+        return true;
+    }
+    std::cerr << "eeprog-placa: no se puede escribir el volcado " << ruta << '\n';
+    return false;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    auto argumentos = eeprog::leerargumentos(argc, argv);
+    if (!argumentos) {
+        std::cerr << eeprog::uso();
+        return 2;
+    }
+    if (argumentos->ayuda) {
+        std::cout << eeprog::uso();
+        return 0;
+    }
+    eeprog::Placa placa(argumentos->placa);
+    if (!argumentos->imagen.empty() && !eeprog::cargarimagen(argumentos->imagen, placa.chip())) {
+        std::cerr << "eeprog-placa: no se puede leer la imagen " << argumentos->imagen << '\n';
+        return 1;
+    }
+    instalarsenales();
+    int resultado = servir(placa, *argumentos);
+    if (resultado == 0 && !volcar(placa, argumentos->volcado)) {
+        resultado = 1;
+    }
+    return resultado;
+}

@@ -1,0 +1,172 @@
+#include "servidor.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <stdlib.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace eeprog {
+
+namespace {
+
+// How long one look at the terminal may block; it bounds how late a signal is noticed.
+constexpr int vigilancia = 100;
+// How long to rest while no one has the terminal open: hang-up is reported at once, every time.
+constexpr long descanso = 5'000'000;
+// Two bytes of 10 bits at 9600 baud: the byte that came in and the reply that goes out.
+constexpr long dosbytes = 2L * 10 * 1'000'000'000 / 9600;
+
+timespec ahora()
+{
+    timespec momento{};
+    clock_gettime(CLOCK_MONOTONIC, &momento);
+    return momento;
+}
+
+timespec sumar(timespec momento, long nanosegundos)
+{
+    momento.tv_nsec += nanosegundos;
+    momento.tv_sec += momento.tv_nsec / 1'000'000'000;
+    momento.tv_nsec %= 1'000'000'000;
+    return momento;
+}
+
+void descansar()
+{
+    timespec pausa{0, descanso};
+    nanosleep(&pausa, nullptr);
+}
+
+// A signal cuts the write short; what is left then no longer matters.
+void escribirtodo(int destino, const std::string& datos)
+{
+    std::size_t hecho = 0;
+    while (hecho < datos.size()) {
+        ssize_t escrito = write(destino, datos.data() + hecho, datos.size() - hecho);
+        if (escrito <= 0) {
+            return;
+        }
+        hecho += static_cast<std::size_t>(escrito);
+    }
+}
+
+} // namespace
+
+Servidor::Servidor(Placa& placa, bool ritmo) : placa(placa), ritmo(ritmo) {}
+
+Servidor::~Servidor()
+{
+    if (maestro >= 0) {
+        close(maestro);
+    }
+}
+
+bool Servidor::abrir()
+{
+    maestro = posix_openpt(O_RDWR | O_NOCTTY);
+    if (maestro < 0 || grantpt(maestro) != 0 || unlockpt(maestro) != 0) {
+        return false;
+    }
+    const char* nombre = ptsname(maestro);
+    if (nombre == nullptr) {
+        return false;
+    }
+    esclavo = nombre;
+    return ponerencrudo();
+}
+
+const std::string& Servidor::ruta() const
+{
+    return esclavo;
+}
+
+void Servidor::servir(const volatile std::sig_atomic_t& terminar)
+{
+    while (!terminar) {
+        vigilar();
+    }
+}
+
+// Settings made now outlive this close and hold for whoever opens the terminal next, so a
+// program that leaves them alone still gets every byte through untouched.
+bool Servidor::ponerencrudo()
+{
+    int lado = open(esclavo.c_str(), O_RDWR | O_NOCTTY);
+    if (lado < 0) {
+        return false;
+    }
+    termios modo{};
+    bool hecho = tcgetattr(lado, &modo) == 0;
+    if (hecho) {
+        cfmakeraw(&modo);
+        cfsetispeed(&modo, B9600);
+        cfsetospeed(&modo, B9600);
+        hecho = tcsetattr(lado, TCSANOW, &modo) == 0;
+    }
+    close(lado);
+    return hecho;
+}
+
+// Hang-up means no one has the terminal open; the first byte after one begins a session.
+// Bytes sent just before a close still come with the hang-up, and the board hears them,
+// but their replies would have no one to go to.
+void Servidor::vigilar()
+{
+    pollfd vigilado{maestro, POLLIN, 0};
+    if (poll(&vigilado, 1, vigilancia) <= 0) {
+        return;
+    }
+    bool colgado = (vigilado.revents & POLLHUP) != 0;
+    if ((vigilado.revents & POLLIN) != 0 && atender(!colgado)) {
+        return;
+    }
+    if (colgado) {
+        conectado = false;
+        descansar();
+    }
+}
+
+// A reply written as the last session closed would wait in the terminal for the next one.
+void Servidor::comenzarsesion()
+{
+    conectado = true;
+    tcflush(maestro, TCOFLUSH);
+    placa.conectar();
+}
+
+// False when nothing could be read: some systems keep a closed terminal readable, to fail.
+bool Servidor::atender(bool responder)
+{
+    unsigned char llegado[256];
+    ssize_t leidos = read(maestro, llegado, sizeof llegado);
+    if (leidos <= 0) {
+        return false;
+    }
+    if (!conectado) {
+        comenzarsesion();
+    }
+    timespec plazo = sumar(ahora(), dosbytes);
+    std::string respuestas;
+    for (ssize_t i = 0; i < leidos; ++i) {
+        if (auto respuesta = placa.recibir(llegado[i])) {
+            respuestas += static_cast<char>(*respuesta);
+        }
+    }
+    if (responder && !respuestas.empty()) {
+        enviar(respuestas, plazo);
+    }
+    return true;
+}
+
+// The program sends one byte and waits, so a batch of several bytes only comes from a
+// program out of step; its replies go out together at the first byte's time.
+void Servidor::enviar(const std::string& respuestas, const timespec& plazo)
+{
+    if (ritmo) {
+        clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &plazo, nullptr);
+    }
+    escribirtodo(maestro, respuestas);
+}
+
+} // namespace eeprog
