@@ -1,0 +1,83 @@
+#pragma once
+
+#include "editor/cuadriculas.h"
+#include "editor/edicion.h"
+#include "link/conexion.h"
+#include "link/enlace.h"
+#include "link/puerto.h"
+#include "plataforma/avisos.h"
+#include "plataforma/barraprogreso.h"
+#include "plataforma/boton.h"
+#include "plataforma/cajatexto.h"
+#include "plataforma/informe.h"
+#include "plataforma/paneles.h"
+#include "plataforma/reloj.h"
+#include "plataforma/skin.h"
+
+#include <array>
+#include <string>
+
+namespace eeprog {
+
+inline const std::string titulo = "Programador de Memorias EEPROM AT28c64b       por       Varnimo";
+inline const std::string encabezado = "Programador de memorias EEPROM AT28c64b por Varnimo";
+inline const std::string conectado = "Programador..... C O N E C T A D O !!!!";
+inline const std::string noconectado = "Programador..... NO EXISTE CONECCION";
+
+// The picture buttons of the command row, left to right.
+struct Botones {
+    Boton& abrir;
+    Boton& guardar;
+    Boton& leer;
+    Boton& borrar;
+    Boton& grabar;
+    Boton& verificar;
+    Boton& edit;
+    Boton& editado;
+
+    std::array<Boton*, 8> todos() const;
+};
+
+// The controls of the main window, as its logic reaches them.
+struct Controles {
+    CajaTexto& txtinforme;
+    Paneles& StatusBar1;
+    BarraProgreso& ProgressBar1;
+    Botones botones;
+    Cuadriculas& cuadriculas;
+};
+
+// What the main window's logic uses beyond its own controls.
+struct Servicios {
+    Puerto& puerto;
+    const Reloj& reloj;
+    Avisos& avisos;
+    Skin& skin;
+};
+
+// The logic of the main window: what each of its events does, and the data it owns.
+// The window system comes in only through Controles and Servicios.
+class Form1 {
+public:
+    Form1(Controles controles, Servicios servicios);
+    Form1(const Form1&) = delete;
+    Form1& operator=(const Form1&) = delete;
+
+    // Runs once, when the window is first shown and before it becomes visible.
+    void Form_Load();
+    // Brings the buttons, the log and the grids into line with the skin.
+    void actualizar();
+
+    const Edicion& edicion() const { return edicion_; }
+
+private:
+    void comprobarplaca();
+
+    Controles controles_;
+    Servicios servicios_;
+    Enlace enlace_;
+    Informe informe_;
+    Edicion edicion_;
+};
+
+} // namespace eeprog

@@ -1,0 +1,11 @@
+#include "shell/qt/ventanaform1.h"
+
+#include <QApplication>
+
+int main(int argc, char* argv[])
+{
+    QApplication aplicacion(argc, argv);
+    eeprog::VentanaForm1 Form1;
+    Form1.show();
+    return aplicacion.exec();
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "plataforma/paneles.h"
+#include "shell/qt/repintado.h"
+
+#include <QStatusBar>
+
+#include <array>
+
+class QLabel;
+
+namespace eeprog {
+
+// The status bar with its five panels: status and progress, the file's size, and the
+// address, value and character of the byte under the pointer.
+class BarraEstado : public QStatusBar, public Paneles {
+public:
+    static constexpr int cantidad = 5;
+
+    explicit BarraEstado(QWidget* padre = nullptr);
+
+    void panel(int numero, const std::string& texto) override;
+    QString textopanel(int numero) const;
+
+    // The panels have fixed widths and may be covered when the window is made narrow;
+    // they never set how narrow the window can be.
+    QSize minimumSizeHint() const override;
+
+private:
+    std::array<QLabel*, cantidad> paneles_{};
+    Repintado repintado_;
+};
+
+} // namespace eeprog

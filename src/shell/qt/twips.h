@@ -1,0 +1,16 @@
+#pragma once
+
+#include "plataforma/color.h"
+
+#include <QColor>
+#include <QRect>
+
+namespace eeprog {
+
+// Lengths of the window are given in twips, 1/1440 inch, and drawn at the screen's DPI.
+int pixeles(int twips);
+QRect rectangulo(int izquierda, int arriba, int ancho, int alto);
+
+QColor acolorqt(Color color);
+
+} // namespace eeprog

@@ -1,0 +1,128 @@
+#include "shell/qt/ventanaform1.h"
+
+#include "shell/qt/barra.h"
+#include "shell/qt/barraestado.h"
+#include "shell/qt/botonimagen.h"
+#include "shell/qt/cajainforme.h"
+#include "shell/qt/cajamensajes.h"
+#include "shell/qt/puertoserie.h"
+#include "shell/qt/rejillas.h"
+#include "shell/qt/twips.h"
+
+#include <QApplication>
+#include <QMenuBar>
+#include <QScreen>
+
+namespace eeprog {
+
+namespace {
+
+constexpr int anchocliente = 9045;
+constexpr int altocliente = 6225;
+constexpr int arribabarraestado = 5970;
+
+struct Palabras {
+    const char* nombre;
+    const char* palabra;
+    const char* ayuda;
+};
+
+// The command row, left to right.
+constexpr std::array<Palabras, 8> botones{{
+    {"abrir", "ABRIR", "Carger el Archivo HEX o OBJ para Programar"},
+    {"guardar", "GUARDAR", "Guardar el Archivo leido"},
+    {"leer", "LEER", "Leer del Circuito Integrado"},
+    {"borrar", "BORRAR", "Borrar el contenido del Dispositivo"},
+    {"grabar", "GRABAR", "Programar el dispositivo"},
+    {"verificar", "VERIFICAR", "Verificar el dispositivo"},
+    {"edit", "EDITAR", "Editar  el programa"},
+    {"editado", "EDITADO", "Editar  el programa"},
+}};
+
+} // namespace
+
+Dependencias dependenciasreales()
+{
+    return {std::make_unique<PuertoSerie>(), std::make_unique<CajaMensajes>(), std::make_unique<RelojSistema>()};
+}
+
+VentanaForm1::VentanaForm1(Dependencias dependencias, QWidget* padre)
+    : QMainWindow(padre), dependencias_(std::move(dependencias))
+{
+    setWindowTitle(QString::fromStdString(titulo));
+    auto* lienzo = new QWidget(this);
+    setCentralWidget(lienzo);
+    crearcontroles(lienzo);
+    crearmenu();
+    skin_.registrar(Formulario::Form1, this);
+    logica_.emplace(controles(), Servicios{*dependencias_.puerto, *dependencias_.reloj, *dependencias_.avisos, skin_});
+    dimensionar();
+}
+
+VentanaForm1::~VentanaForm1() = default;
+
+void VentanaForm1::crearcontroles(QWidget* lienzo)
+{
+    crearbotones(lienzo);
+    txtinforme_ = new CajaInforme(lienzo);
+    txtinforme_->setGeometry(rectangulo(120, 960, 8775, 735));
+    txtinforme_->setAccessibleName(QStringLiteral("txtinforme"));
+    rejillas_ = std::make_unique<Rejillas>(lienzo);
+    ProgressBar1_ = new Barra(lienzo);
+    ProgressBar1_->setGeometry(rectangulo(120, 5640, 8655, 255));
+    ProgressBar1_->setToolTip(QStringLiteral("Barra que muestra el progreso del proceso que se haya elegido"));
+    StatusBar1_ = new BarraEstado(this);
+    setStatusBar(StatusBar1_);
+}
+
+void VentanaForm1::crearbotones(QWidget* lienzo)
+{
+    for (std::size_t i = 0; i < botones.size(); ++i) {
+        auto* boton =
+            new BotonImagen(QString::fromUtf8(botones[i].palabra), QString::fromUtf8(botones[i].ayuda), lienzo);
+        boton->setObjectName(QString::fromUtf8(botones[i].nombre));
+        boton->setGeometry(rectangulo(1080 + 840 * static_cast<int>(i), 120, 750, 750));
+        botones_[i] = boton;
+    }
+}
+
+// Salir ends the run at once: no question, nothing saved.
+void VentanaForm1::crearmenu()
+{
+    QMenu* menuarchivo = menuBar()->addMenu(QStringLiteral("&Archivo"));
+    QAction* Opcionsalir = menuarchivo->addAction(QStringLiteral("&Salir"));
+    Opcionsalir->setObjectName(QStringLiteral("Opcionsalir"));
+    Opcionsalir->setShortcut(QKeySequence(QStringLiteral("Ctrl+X")));
+    connect(Opcionsalir, &QAction::triggered, qApp, [] { QCoreApplication::exit(0); });
+}
+
+// The client area has a fixed size in twips; the window opens centred on the screen.
+// The controls keep their places when it is resized; only the status bar follows. The
+// status bar takes the height its font needs, which may be a little more than its share.
+void VentanaForm1::dimensionar()
+{
+    const int barra = std::max(StatusBar1_->sizeHint().height(), pixeles(altocliente - arribabarraestado));
+    const int alto = menuBar()->sizeHint().height() + pixeles(arribabarraestado) + barra;
+    resize(pixeles(anchocliente), alto);
+    if (const QScreen* pantalla = screen())
+        move(pantalla->availableGeometry().center() - rect().center());
+}
+
+Controles VentanaForm1::controles()
+{
+    Botones b{*botones_[0], *botones_[1], *botones_[2], *botones_[3],
+              *botones_[4], *botones_[5], *botones_[6], *botones_[7]};
+    return {*txtinforme_, *StatusBar1_, *ProgressBar1_, b, *rejillas_};
+}
+
+// The window's start-up runs when it is first shown, before it is on the screen.
+void VentanaForm1::showEvent(QShowEvent* evento)
+{
+    if (!cargada_) {
+        cargada_ = true;
+        logica_->Form_Load();
+    }
+    QMainWindow::showEvent(evento);
+}
+
+} // namespace eeprog

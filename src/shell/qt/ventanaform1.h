@@ -1,0 +1,67 @@
+#pragma once
+
+#include "link/puerto.h"
+#include "plataforma/avisos.h"
+#include "plataforma/reloj.h"
+#include "shell/form1.h"
+#include "shell/qt/motorskin.h"
+
+#include <QMainWindow>
+
+#include <memory>
+#include <optional>
+
+namespace eeprog {
+
+class Barra;
+class BarraEstado;
+class BotonImagen;
+class CajaInforme;
+class Rejillas;
+
+// What the window talks to outside itself. Tests put recording fakes in their place.
+struct Dependencias {
+    std::unique_ptr<Puerto> puerto;
+    std::unique_ptr<Avisos> avisos;
+    std::unique_ptr<Reloj> reloj;
+};
+
+// The serial port of the system, message boxes on the screen and the system clock.
+Dependencias dependenciasreales();
+
+// The main window: its controls in their places, and the logic of Form1 behind them.
+class VentanaForm1 : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit VentanaForm1(Dependencias dependencias = dependenciasreales(), QWidget* padre = nullptr);
+    ~VentanaForm1() override;
+
+    CajaInforme& txtinforme() const { return *txtinforme_; }
+    BarraEstado& StatusBar1() const { return *StatusBar1_; }
+    Barra& ProgressBar1() const { return *ProgressBar1_; }
+    BotonImagen& boton(int indice) const { return *botones_.at(static_cast<std::size_t>(indice)); }
+    Rejillas& rejillas() const { return *rejillas_; }
+    Form1& logica() { return *logica_; }
+
+protected:
+    void showEvent(QShowEvent* evento) override;
+
+private:
+    void crearcontroles(QWidget* lienzo);
+    void crearbotones(QWidget* lienzo);
+    void crearmenu();
+    void dimensionar();
+    Controles controles();
+
+    Dependencias dependencias_;
+    MotorSkin skin_;
+    CajaInforme* txtinforme_ = nullptr;
+    BarraEstado* StatusBar1_ = nullptr;
+    Barra* ProgressBar1_ = nullptr;
+    std::array<BotonImagen*, 8> botones_{};
+    std::unique_ptr<Rejillas> rejillas_;
+    std::optional<Form1> logica_;
+    bool cargada_ = false;
+};
+
+} // namespace eeprog

@@ -1,0 +1,139 @@
+#include "pantallafalsa.h"
+#include "placa.h"
+#include "puertoguion.h"
+#include "puertoplaca.h"
+#include "shell/form1.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace eeprog {
+namespace {
+
+using namespace prueba;
+
+// The main window's logic over recording controls and a board in the same process.
+class Form1Test : public ::testing::Test {
+protected:
+    Bitacora bitacora;
+    CajaFalsa txtinforme{&bitacora};
+    PanelesFalsos StatusBar1{&bitacora};
+    BarraFalsa ProgressBar1;
+    std::array<BotonFalso, 8> botones{BotonFalso{"abrir", &bitacora},  BotonFalso{"guardar", &bitacora},
+                                      BotonFalso{"leer", &bitacora},   BotonFalso{"borrar", &bitacora},
+                                      BotonFalso{"grabar", &bitacora}, BotonFalso{"verificar", &bitacora},
+                                      BotonFalso{"edit", &bitacora},   BotonFalso{"editado", &bitacora}};
+    CuadriculasFalsas cuadriculas{&bitacora};
+    RelojFijo reloj;
+    AvisosFalsos avisos{&bitacora};
+    SkinFalso skin{&bitacora};
+
+    Controles controles()
+    {
+        Botones b{botones[0], botones[1], botones[2], botones[3], botones[4], botones[5], botones[6], botones[7]};
+        return {txtinforme, StatusBar1, ProgressBar1, b, cuadriculas};
+    }
+};
+
+const std::string cabecera = "Programador de memorias EEPROM AT28c64b por Varnimo\r\n"
+                             "Fecha : 23/11/2026    Hora : 10:11:12           Cesion Iniciada...\r\n";
+
+TEST_F(Form1Test, StartingWithTheBoardLogsThreeLinesEndingInConectado)
+{
+    Placa placa;
+    PuertoPlaca puerto(placa);
+    Form1 form(controles(), {puerto, reloj, avisos, skin});
+    form.Form_Load();
+    EXPECT_EQ(txtinforme.contenido, cabecera + "Programador..... C O N E C T A D O !!!!\r\n");
+    EXPECT_EQ(puerto.enviados(), "c");
+    EXPECT_EQ(puerto.cierres(), 1);
+    EXPECT_FALSE(puerto.abierto());
+}
+
+TEST_F(Form1Test, StartingWithoutABoardLogsNoExisteAndShowsNoBoxAndNoPanelText)
+{
+    Placa placa({.muda = true});
+    PuertoPlaca puerto(placa);
+    Form1 form(controles(), {puerto, reloj, avisos, skin});
+    form.Form_Load();
+    EXPECT_EQ(txtinforme.contenido, cabecera + "Programador..... NO EXISTE CONECCION\r\n");
+    EXPECT_TRUE(avisos.mostrados.empty());
+    EXPECT_EQ(StatusBar1.textos[1], "Programador de memorias EEPROM AT28c64b por Varnimo");
+    EXPECT_EQ(StatusBar1.textos.size(), 1u);
+    EXPECT_EQ(puerto.esperas(), 100);
+    EXPECT_FALSE(puerto.abierto());
+}
+
+TEST_F(Form1Test, StartingWithAPortThatCannotOpenIsLikeNoBoard)
+{
+    Placa placa;
+    PuertoPlaca puerto(placa, false);
+    Form1 form(controles(), {puerto, reloj, avisos, skin});
+    form.Form_Load();
+    EXPECT_EQ(txtinforme.contenido, cabecera + "Programador..... NO EXISTE CONECCION\r\n");
+    EXPECT_EQ(puerto.aperturas(), 0);
+    EXPECT_TRUE(puerto.enviados().empty());
+}
+
+TEST_F(Form1Test, TheFirstLineReplacesWhateverTheLogHeld)
+{
+    txtinforme.contenido = "texto de antes";
+    Placa placa;
+    PuertoPlaca puerto(placa);
+    Form1 form(controles(), {puerto, reloj, avisos, skin});
+    form.Form_Load();
+    EXPECT_EQ(txtinforme.contenido.rfind(cabecera, 0), 0u);
+}
+
+TEST_F(Form1Test, StartUpRunsItsStepsInOrder)
+{
+    PuertoGuion puerto(&bitacora);
+    puerto.alescribir = [&](const std::string& d) { puerto.llegara(d); };
+    Form1 form(controles(), {puerto, reloj, avisos, skin});
+    form.Form_Load();
+
+    const std::vector<std::string> pasos{"skin aplicar",
+                                         "abrir color 221,247,224",
+                                         "editado color 221,247,224",
+                                         "informe color 221,247,224",
+                                         "cuadriculas color 221,247,224",
+                                         "cuadriculas lineas 0,0,0",
+                                         "panel 1 Programador de memorias EEPROM AT28c64b por Varnimo",
+                                         "escribir c",
+                                         "cerrar",
+                                         "dibujareditor",
+                                         "editado deshabilitado"};
+    auto desde = bitacora.sucesos.begin();
+    for (const std::string& paso : pasos) {
+        auto hallado = std::find(desde, bitacora.sucesos.end(), paso);
+        ASSERT_NE(hallado, bitacora.sucesos.end()) << "missing or out of order: " << paso;
+        desde = hallado;
+    }
+    EXPECT_EQ(bitacora.sucesos.back(), "editado deshabilitado");
+    EXPECT_EQ(cuadriculas.dibujos, 1);
+}
+
+TEST_F(Form1Test, StartUpDressesTheWindowAndLeavesEveryCommandButEditadoEnabled)
+{
+    skin.actual = Color{10, 20, 30};
+    Placa placa;
+    PuertoPlaca puerto(placa);
+    Form1 form(controles(), {puerto, reloj, avisos, skin});
+    form.Form_Load();
+    EXPECT_EQ(skin.aplicados, std::vector<Formulario>{Formulario::Form1});
+    for (const BotonFalso& boton : botones) {
+        EXPECT_EQ(boton.fondo, (Color{10, 20, 30}));
+        EXPECT_EQ(boton.apariencia, Apariencia::plana);
+    }
+    EXPECT_EQ(txtinforme.fondo, (Color{10, 20, 30}));
+    EXPECT_EQ(cuadriculas.fondo, (Color{10, 20, 30}));
+    EXPECT_EQ(cuadriculas.lineas, negro);
+    EXPECT_FALSE(botones[7].habilitado);
+    EXPECT_TRUE(std::all_of(botones.begin(), botones.begin() + 7, [](const BotonFalso& b) { return b.habilitado; }));
+    EXPECT_FALSE(form.edicion().edicionhabilitada);
+    EXPECT_EQ(form.edicion().cuentadigitos, 0);
+}
+
+} // namespace
+} // namespace eeprog

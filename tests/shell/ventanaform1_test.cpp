@@ -1,0 +1,161 @@
+#include "aplicacion.h"
+#include "pantallafalsa.h"
+#include "placa.h"
+#include "puertoplaca.h"
+#include "shell/qt/barraestado.h"
+#include "shell/qt/botonimagen.h"
+#include "shell/qt/cajainforme.h"
+#include "shell/qt/rejillas.h"
+#include "shell/qt/twips.h"
+#include "shell/qt/ventanaform1.h"
+
+#include <QApplication>
+#include <QFrame>
+#include <QMenuBar>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace eeprog {
+namespace {
+
+using namespace prueba;
+
+// The real window on Qt's offscreen platform, with the board in the same process.
+class VentanaTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() { crearaplicacion(); }
+
+    std::unique_ptr<VentanaForm1> abrir(Placa& placa, bool abrible = true)
+    {
+        auto puerto = std::make_unique<PuertoPlaca>(placa, abrible);
+        puerto_ = puerto.get();
+        auto avisos = std::make_unique<AvisosFalsos>();
+        avisos_ = avisos.get();
+        auto ventana = std::make_unique<VentanaForm1>(
+            Dependencias{std::move(puerto), std::move(avisos), std::make_unique<RelojFijo>()});
+        ventana->show();
+        return ventana;
+    }
+
+    PuertoPlaca* puerto_ = nullptr;
+    AvisosFalsos* avisos_ = nullptr;
+};
+
+const std::string cabecera = "Programador de memorias EEPROM AT28c64b por Varnimo\r\n"
+                             "Fecha : 23/11/2026    Hora : 10:11:12           Cesion Iniciada...\r\n";
+
+TEST_F(VentanaTest, OpensWithItsTitleThreeLogLinesAndTheHeadingInPanelOne)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    EXPECT_EQ(ventana->windowTitle().toStdString(), "Programador de Memorias EEPROM AT28c64b       por       Varnimo");
+    EXPECT_EQ(ventana->txtinforme().texto(), cabecera + "Programador..... C O N E C T A D O !!!!\r\n");
+    EXPECT_EQ(ventana->StatusBar1().textopanel(1).toStdString(), "Programador de memorias EEPROM AT28c64b por Varnimo");
+    for (int panel = 2; panel <= 5; ++panel)
+        EXPECT_TRUE(ventana->StatusBar1().textopanel(panel).isEmpty());
+}
+
+TEST_F(VentanaTest, OpensWithoutABoardAndNoBox)
+{
+    Placa placa({.muda = true});
+    auto ventana = abrir(placa);
+    EXPECT_TRUE(ventana->isVisible());
+    EXPECT_EQ(ventana->txtinforme().texto(), cabecera + "Programador..... NO EXISTE CONECCION\r\n");
+    EXPECT_TRUE(avisos_->mostrados.empty());
+    EXPECT_FALSE(puerto_->abierto());
+}
+
+TEST_F(VentanaTest, StartUpRunsOnceHoweverOftenTheWindowIsShown)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    ventana->hide();
+    ventana->show();
+    EXPECT_EQ(puerto_->aperturas(), 1);
+}
+
+TEST_F(VentanaTest, ControlsStandWhereTheirTwipsPutThem)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    EXPECT_EQ(ventana->boton(0).geometry(), rectangulo(1080, 120, 750, 750));
+    EXPECT_EQ(ventana->boton(7).geometry(), rectangulo(6960, 120, 750, 750));
+    EXPECT_EQ(ventana->txtinforme().geometry(), rectangulo(120, 960, 8775, 735));
+    EXPECT_EQ(ventana->rejillas().fgascii()->geometry(), rectangulo(5475, 1800, 3420, 3735));
+    EXPECT_EQ(ventana->centralWidget()->width(), pixeles(9045));
+}
+
+TEST_F(VentanaTest, TheGridsLieOneOverTheOtherWithFgasciiOnTop)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    const Rejillas& r = ventana->rejillas();
+    ASSERT_TRUE(r.fgascii()->isVisible());
+    QWidget* lienzo = ventana->centralWidget();
+    const QPoint solapado(pixeles(5600), pixeles(2500)); // inside both fghex and fgascii
+    EXPECT_EQ(lienzo->childAt(solapado), r.fgascii());
+    const QPoint dirhex(pixeles(700), pixeles(2500)); // inside both fgdir and fghex
+    EXPECT_EQ(lienzo->childAt(dirhex), r.fghex());
+}
+
+TEST_F(VentanaTest, EditadoIsDisabledAndTheOtherButtonsLieFlatInTheSkinColour)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    for (int i = 0; i < 7; ++i) {
+        EXPECT_TRUE(ventana->boton(i).isEnabled()) << i;
+        EXPECT_EQ(ventana->boton(i).apariencia(), Apariencia::plana);
+        EXPECT_EQ(ventana->boton(i).palette().color(QPalette::Window), QColor(221, 247, 224));
+    }
+    EXPECT_FALSE(ventana->boton(7).isEnabled());
+    EXPECT_EQ(ventana->boton(6).toolTip().toStdString(), "Editar  el programa");
+    EXPECT_EQ(ventana->boton(6).accessibleName().toStdString(), "EDITAR");
+}
+
+TEST_F(VentanaTest, TheLogKeepsWhatTheUserTypesAndTheNextLineFollowsIt)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    CajaInforme& log = ventana->txtinforme();
+    log.moveCursor(QTextCursor::End);
+    QTest::keyClicks(&log, "hola");
+    EXPECT_EQ(log.texto(), cabecera + "Programador..... C O N E C T A D O !!!!\r\nhola");
+}
+
+// Salir and the close box both end the run with no question; the event loop returning
+// is the proof, and a timer fails the test if it does not.
+int correrhasta(const std::function<void()>& accion)
+{
+    bool agotado = false;
+    QTimer::singleShot(0, accion);
+    QTimer::singleShot(5000, [&] {
+        agotado = true;
+        QCoreApplication::exit(99);
+    });
+    const int codigo = QCoreApplication::exec();
+    EXPECT_FALSE(agotado);
+    return codigo;
+}
+
+TEST_F(VentanaTest, CtrlXEndsTheRunFromTheLog)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    ventana->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
+    ventana->txtinforme().setFocus();
+    EXPECT_EQ(correrhasta([&] { QTest::keyClick(&ventana->txtinforme(), Qt::Key_X, Qt::ControlModifier); }), 0);
+}
+
+TEST_F(VentanaTest, TheCloseBoxEndsTheRun)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    correrhasta([&] { ventana->close(); });
+    EXPECT_FALSE(ventana->isVisible());
+}
+
+} // namespace
+} // namespace eeprog
