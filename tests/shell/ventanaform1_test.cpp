@@ -87,6 +87,23 @@ TEST_F(VentanaTest, ControlsStandWhereTheirTwipsPutThem)
     EXPECT_EQ(ventana->centralWidget()->width(), pixeles(9045));
 }
 
+TEST_F(VentanaTest, StatusPanelsStandSideBySideAtTheirWidthsAndKeepTheWholeTextAtHand)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    BarraEstado& barra = ventana->StatusBar1();
+    const int medio = barra.height() / 2;
+    const std::vector<std::pair<int, const char*>> lugares{{4400, "Panel 1"}, {4600, "Panel 2"}, {6400, "Panel 2"},
+                                                           {6600, "Panel 3"}, {7400, "Panel 4"}, {8100, "Panel 5"}};
+    for (const auto& [twips, nombre] : lugares) {
+        QWidget* panel = barra.childAt(pixeles(twips), medio);
+        ASSERT_NE(panel, nullptr) << twips;
+        EXPECT_EQ(panel->accessibleName().toStdString(), nombre) << twips;
+    }
+    EXPECT_EQ(barra.childAt(pixeles(100), medio)->toolTip().toStdString(),
+              "Programador de memorias EEPROM AT28c64b por Varnimo");
+}
+
 TEST_F(VentanaTest, TheGridsLieOneOverTheOtherWithFgasciiOnTop)
 {
     Placa placa;

@@ -20,18 +20,39 @@ QFont letrapanel()
 
 } // namespace
 
+// The panels stand side by side from the left edge, each at its fixed width, as a row of
+// their own rather than in the status bar's layout, which would squeeze or overlap them.
 BarraEstado::BarraEstado(QWidget* padre) : QStatusBar(padre)
 {
-    for (int i = 0; i < cantidad; ++i) {
+    int izquierda = 0;
+    for (std::size_t i = 0; i < paneles_.size(); ++i) {
         auto* etiqueta = new QLabel(this);
         etiqueta->setFont(letrapanel());
         etiqueta->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        etiqueta->setFixedWidth(pixeles(anchos[static_cast<std::size_t>(i)]));
         etiqueta->setTextFormat(Qt::PlainText);
         etiqueta->setAccessibleName(QStringLiteral("Panel %1").arg(i + 1));
-        addWidget(etiqueta);
-        paneles_[static_cast<std::size_t>(i)] = etiqueta;
+        const int ancho = pixeles(anchos[i]);
+        etiqueta->setGeometry(izquierda, 0, ancho, altura());
+        izquierda += ancho;
+        paneles_[i] = etiqueta;
     }
+}
+
+int BarraEstado::altura() const
+{
+    return QFontMetrics(letrapanel()).height() + 4;
+}
+
+QSize BarraEstado::sizeHint() const
+{
+    return {QStatusBar::sizeHint().width(), altura()};
+}
+
+void BarraEstado::resizeEvent(QResizeEvent* evento)
+{
+    QStatusBar::resizeEvent(evento);
+    for (QLabel* etiqueta : paneles_)
+        etiqueta->setFixedHeight(height());
 }
 
 void BarraEstado::panel(int numero, const std::string& texto)
@@ -40,12 +61,13 @@ void BarraEstado::panel(int numero, const std::string& texto)
         return;
     QLabel* etiqueta = paneles_[static_cast<std::size_t>(numero - 1)];
     etiqueta->setText(QString::fromStdString(texto));
+    etiqueta->setToolTip(etiqueta->text()); // the whole text, where the panel's width cuts it
     repintado_.pedir(*this);
 }
 
 QSize BarraEstado::minimumSizeHint() const
 {
-    return {0, QStatusBar::minimumSizeHint().height()};
+    return {0, altura()};
 }
 
 QString BarraEstado::textopanel(int numero) const

@@ -25,8 +25,14 @@ public:
     // The panels have fixed widths and may be covered when the window is made narrow;
     // they never set how narrow the window can be.
     QSize minimumSizeHint() const override;
+    QSize sizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* evento) override;
 
 private:
+    int altura() const;
+
     std::array<QLabel*, cantidad> paneles_{};
     Repintado repintado_;
 };

@@ -12,6 +12,7 @@ CajaInforme::CajaInforme(QWidget* padre) : QPlainTextEdit(padre)
     letra.setStyleHint(QFont::TypeWriter);
     letra.setPointSizeF(8.25);
     setFont(letra);
+    document()->setDocumentMargin(2); // three lines fit the box's height, as they should
     setLineWrapMode(QPlainTextEdit::WidgetWidth);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
