@@ -65,17 +65,6 @@ TEST_F(Form1Test, StartingWithoutABoardLogsNoExisteAndShowsNoBoxAndNoPanelText)
     EXPECT_FALSE(puerto.abierto());
 }
 
-TEST_F(Form1Test, StartingWithAPortThatCannotOpenIsLikeNoBoard)
-{
-    Placa placa;
-    PuertoPlaca puerto(placa, false);
-    Form1 form(controles(), {puerto, reloj, avisos, skin});
-    form.Form_Load();
-    EXPECT_EQ(txtinforme.contenido, cabecera + "Programador..... NO EXISTE CONECCION\r\n");
-    EXPECT_EQ(puerto.aperturas(), 0);
-    EXPECT_TRUE(puerto.enviados().empty());
-}
-
 TEST_F(Form1Test, TheFirstLineReplacesWhateverTheLogHeld)
 {
     txtinforme.contenido = "texto de antes";

@@ -57,16 +57,6 @@ TEST_F(VentanaTest, OpensWithItsTitleThreeLogLinesAndTheHeadingInPanelOne)
         EXPECT_TRUE(ventana->StatusBar1().textopanel(panel).isEmpty());
 }
 
-TEST_F(VentanaTest, OpensWithoutABoardAndNoBox)
-{
-    Placa placa({.muda = true});
-    auto ventana = abrir(placa);
-    EXPECT_TRUE(ventana->isVisible());
-    EXPECT_EQ(ventana->txtinforme().texto(), cabecera + "Programador..... NO EXISTE CONECCION\r\n");
-    EXPECT_TRUE(avisos_->mostrados.empty());
-    EXPECT_FALSE(puerto_->abierto());
-}
-
 TEST_F(VentanaTest, StartUpRunsOnceHoweverOftenTheWindowIsShown)
 {
     Placa placa;

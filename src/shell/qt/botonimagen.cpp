@@ -23,22 +23,27 @@ BotonImagen::BotonImagen(const QString& palabra, const QString& ayuda, QWidget* 
     auto* disposicion = new QVBoxLayout(this);
     disposicion->setContentsMargins(1, 1, 1, 2);
     disposicion->addWidget(palabra_);
-    ponerapariencia(Apariencia::plana);
+    dibujarapariencia();
 }
 
 // The look changes in the middle of a blocking operation, so it is painted at once.
 void BotonImagen::ponerapariencia(Apariencia apariencia)
 {
     apariencia_ = apariencia;
-    if (apariencia == Apariencia::tridimensional) {
+    dibujarapariencia();
+    if (isVisible())
+        repaint();
+}
+
+void BotonImagen::dibujarapariencia()
+{
+    if (apariencia_ == Apariencia::tridimensional) {
         setFrameStyle(QFrame::Panel | QFrame::Raised);
         setLineWidth(2);
     } else {
         setFrameStyle(QFrame::Box | QFrame::Plain);
         setLineWidth(1);
     }
-    if (isVisible())
-        repaint();
 }
 
 void BotonImagen::ponercolor(Color fondo)

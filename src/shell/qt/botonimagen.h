@@ -28,6 +28,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* evento) override;
 
 private:
+    void dibujarapariencia();
+
     QLabel* palabra_;
     Apariencia apariencia_ = Apariencia::plana;
 };
