@@ -10,7 +10,11 @@ std::string ahora(const char* formato)
 {
     std::time_t segundos = std::time(nullptr);
     std::tm local{};
+#ifdef _WIN32
+    localtime_s(&local, &segundos);
+#else
     localtime_r(&segundos, &local);
+#endif
     char texto[32];
     std::size_t largo = std::strftime(texto, sizeof texto, formato, &local);
     return std::string(texto, largo);
