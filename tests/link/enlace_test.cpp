@@ -70,13 +70,6 @@ TEST_F(EnlaceTest, AByteZeroIsAReplyNotASilence)
     EXPECT_EQ(puerto.enviados, std::string(1, '\0'));
 }
 
-TEST_F(EnlaceTest, HighBytesGoOutAndComeBackUnchanged)
-{
-    puerto.alescribir = [&](const std::string& d) { puerto.llegara(d); };
-    EXPECT_EQ(enlace.intercambio("\xFF"), "\xFF");
-    EXPECT_EQ(enlace.intercambio("\x80"), "\x80");
-}
-
 TEST_F(EnlaceTest, AnEmptyTextSendsNothingAndWaitsOutItsTries)
 {
     EXPECT_EQ(enlace.intercambio(""), "Error");

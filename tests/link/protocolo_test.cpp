@@ -21,14 +21,5 @@ TEST(Protocolo, AReplyStandsForTheCodeOfItsFirstCharacter)
     EXPECT_EQ(protocolo::valorde("\x0A\x41"), 0x0A);
 }
 
-TEST(Protocolo, AnAddressGoesOutHighByteFirst)
-{
-    EXPECT_EQ(protocolo::direccionalta(0x0120), 0x01);
-    EXPECT_EQ(protocolo::direccionbaja(0x0120), 0x20);
-    EXPECT_EQ(protocolo::direccionalta(0x1FF0), 0x1F);
-    EXPECT_EQ(protocolo::direccionbaja(0x1FF0), 0xF0);
-    EXPECT_EQ(protocolo::direccionalta(0xFFF0), 0xFF);
-}
-
 } // namespace
 } // namespace eeprog
