@@ -1,19 +1,29 @@
 #pragma once
 
-#include "plataforma/color.h"
+#include "editor/rejilla.h"
 
 namespace eeprog {
 
-// The three grids of the memory editor: row addresses, bytes in hexadecimal, the same
-// bytes as characters.
-class Cuadriculas {
-public:
-    virtual ~Cuadriculas() = default;
-    // Builds the grids once, at start-up: shape, widths and first cell texts.
-    virtual void dibujareditor() = 0;
-    // The background follows the skin; the grid lines are set apart, so they can stay black.
-    virtual void ponercolor(Color fondo) = 0;
-    virtual void ponercolorlineas(Color lineas) = 0;
+// The memory editor: three grids side by side that read as one table. fgdir shows the
+// address of each row, fghex the row's sixteen bytes in hexadecimal, fgascii the same
+// bytes as characters. Byte address A is row A / 16, column A % 16 of fghex and fgascii.
+// Their cells are the editor's only store of bytes.
+struct Cuadriculas {
+    Rejilla fgdir;
+    Rejilla fghex;
+    Rejilla fgascii;
 };
+
+inline constexpr int filasrejilla = 4096;
+inline constexpr int columnasrejilla = 16;
+
+// Builds the grids, once, at start-up: shape, widths, and the cells of an erased chip.
+void dibujareditor(Cuadriculas& cuadriculas);
+
+// The background follows the skin; the grid lines stay black whatever the skin.
+void colorearcuadriculas(Cuadriculas& cuadriculas, Color fondo, Color lineas);
+
+// fghex and fgascii show byte value at row, column; the fgascii cell holds the byte itself.
+void ponerbyte(Cuadriculas& cuadriculas, int fila, int columna, int valor);
 
 } // namespace eeprog

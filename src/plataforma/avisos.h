@@ -4,7 +4,7 @@
 
 namespace eeprog {
 
-enum class Icono { exclamacion, critico, informacion };
+enum class Icono { ninguno, exclamacion, critico, informacion };
 
 // A message box with a single OK button. Lines of the text are joined by CR LF.
 struct Aviso {

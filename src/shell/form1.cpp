@@ -1,5 +1,7 @@
 #include "shell/form1.h"
 
+#include "records/apertura.h"
+#include "records/guardado.h"
 #include "shell/aplicarskin.h"
 
 namespace eeprog {
@@ -11,8 +13,20 @@ std::array<Boton*, 8> Botones::todos() const
 
 Form1::Form1(Controles controles, Servicios servicios)
     : controles_(controles), servicios_(servicios), enlace_(servicios.puerto),
-      informe_(controles.txtinforme, servicios.reloj)
-{}
+      informe_(controles.txtinforme, servicios.reloj), acoplamiento_(controles.cuadriculas, controles.StatusBar1)
+{
+    conectareventos();
+}
+
+void Form1::conectareventos()
+{
+    Cuadriculas& c = controles_.cuadriculas;
+    c.fgdir.Scroll = [this] { acoplamiento_.fgdir_Scroll(); };
+    c.fghex.Scroll = [this] { acoplamiento_.fghex_Scroll(); };
+    c.fgascii.Scroll = [this] { acoplamiento_.fgascii_Scroll(); };
+    c.fghex.MouseUp = [this] { acoplamiento_.fghex_MouseUp(); };
+    c.fgascii.MouseUp = [this] { acoplamiento_.fgascii_MouseUp(); };
+}
 
 // The log is set, not added to, by its first line: whatever the box held goes.
 void Form1::Form_Load()
@@ -24,7 +38,7 @@ void Form1::Form_Load()
     const Reloj& reloj = servicios_.reloj;
     informe_.linea("Fecha : " + reloj.fecha() + "    Hora : " + reloj.hora() + "           Cesion Iniciada...");
     comprobarplaca();
-    controles_.cuadriculas.dibujareditor();
+    dibujareditor(controles_.cuadriculas);
     controles_.botones.editado.habilitar(false);
 }
 
@@ -44,8 +58,28 @@ void Form1::actualizar()
     for (Boton* boton : controles_.botones.todos())
         boton->ponercolor(skin.color());
     controles_.txtinforme.ponercolor(skin.color());
-    controles_.cuadriculas.ponercolor(skin.color());
-    controles_.cuadriculas.ponercolorlineas(negro);
+    colorearcuadriculas(controles_.cuadriculas, skin.color(), negro);
+}
+
+// A file that cannot be read ends the command there: the records, the grids and the
+// names of the last file stay as they were.
+void Form1::abrir_Click()
+{
+    Boton& abrir = controles_.botones.abrir;
+    aspectopresionado(abrir, servicios_.skin);
+    if (abrirarchivo(servicios_.CommonDialog1, archivo_, informe_)) {
+        ponerenvector(archivo_, registros_, servicios_.avisos);
+        mostrarvector(registros_, archivo_, {controles_.cuadriculas, controles_.StatusBar1, informe_});
+    }
+    aspectonormal(abrir, servicios_.skin);
+}
+
+void Form1::guardar_Click()
+{
+    Boton& guardar = controles_.botones.guardar;
+    aspectopresionado(guardar, servicios_.skin);
+    guardararchivo(servicios_.CommonDialog1, textoleido_, informe_, servicios_.avisos);
+    aspectonormal(guardar, servicios_.skin);
 }
 
 } // namespace eeprog

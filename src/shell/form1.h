@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/acoplamiento.h"
 #include "editor/cuadriculas.h"
 #include "editor/edicion.h"
 #include "link/conexion.h"
@@ -9,10 +10,13 @@
 #include "plataforma/barraprogreso.h"
 #include "plataforma/boton.h"
 #include "plataforma/cajatexto.h"
+#include "plataforma/dialogo.h"
 #include "plataforma/informe.h"
 #include "plataforma/paneles.h"
 #include "plataforma/reloj.h"
 #include "plataforma/skin.h"
+#include "records/mostrarvector.h"
+#include "records/registros.h"
 
 #include <array>
 #include <string>
@@ -53,6 +57,7 @@ struct Servicios {
     const Reloj& reloj;
     Avisos& avisos;
     Skin& skin;
+    Dialogo& CommonDialog1;
 };
 
 // The logic of the main window: what each of its events does, and the data it owns.
@@ -68,16 +73,29 @@ public:
     // Brings the buttons, the log and the grids into line with the skin.
     void actualizar();
 
+    // Opens a file, takes its records and shows them in the grids.
+    void abrir_Click();
+    // Saves the last read of the chip.
+    void guardar_Click();
+
     const Edicion& edicion() const { return edicion_; }
+    const Registros& registros() const { return registros_; }
+    const ArchivoAbierto& archivo() const { return archivo_; }
 
 private:
     void comprobarplaca();
+    void conectareventos();
 
     Controles controles_;
     Servicios servicios_;
     Enlace enlace_;
     Informe informe_;
     Edicion edicion_;
+    Acoplamiento acoplamiento_;
+    Registros registros_;
+    ArchivoAbierto archivo_;
+    // The last read of the chip as Intel HEX lines; empty until a read.
+    std::string textoleido_;
 };
 
 } // namespace eeprog

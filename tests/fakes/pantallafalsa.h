@@ -1,7 +1,6 @@
 #pragma once
 
 #include "bitacora.h"
-#include "editor/cuadriculas.h"
 #include "plataforma/avisos.h"
 #include "plataforma/barraprogreso.h"
 #include "plataforma/boton.h"
@@ -137,33 +136,6 @@ public:
 
 private:
     std::string nombre_;
-    Bitacora* bitacora_;
-};
-
-class CuadriculasFalsas : public Cuadriculas {
-public:
-    explicit CuadriculasFalsas(Bitacora* bitacora = nullptr) : bitacora_(bitacora) {}
-    int dibujos = 0;
-    Color fondo;
-    Color lineas{1, 1, 1};
-
-    void dibujareditor() override
-    {
-        anotar(bitacora_, "dibujareditor");
-        ++dibujos;
-    }
-    void ponercolor(Color c) override
-    {
-        anotar(bitacora_, "cuadriculas color " + textocolor(c));
-        fondo = c;
-    }
-    void ponercolorlineas(Color c) override
-    {
-        anotar(bitacora_, "cuadriculas lineas " + textocolor(c));
-        lineas = c;
-    }
-
-private:
     Bitacora* bitacora_;
 };
 

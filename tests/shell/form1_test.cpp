@@ -1,3 +1,4 @@
+#include "dialogofalso.h"
 #include "pantallafalsa.h"
 #include "placa.h"
 #include "puertoguion.h"
@@ -24,7 +25,8 @@ protected:
                                       BotonFalso{"leer", &bitacora},   BotonFalso{"borrar", &bitacora},
                                       BotonFalso{"grabar", &bitacora}, BotonFalso{"verificar", &bitacora},
                                       BotonFalso{"edit", &bitacora},   BotonFalso{"editado", &bitacora}};
-    CuadriculasFalsas cuadriculas{&bitacora};
+    Cuadriculas cuadriculas;
+    DialogoFalso dialogo{&bitacora};
     RelojFijo reloj;
     AvisosFalsos avisos{&bitacora};
     SkinFalso skin{&bitacora};
@@ -43,7 +45,7 @@ TEST_F(Form1Test, StartingWithTheBoardLogsThreeLinesEndingInConectado)
 {
     Placa placa;
     PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin});
+    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo});
     form.Form_Load();
     EXPECT_EQ(txtinforme.contenido, cabecera + "Programador..... C O N E C T A D O !!!!\r\n");
     EXPECT_EQ(puerto.enviados(), "c");
@@ -55,7 +57,7 @@ TEST_F(Form1Test, StartingWithoutABoardLogsNoExisteAndShowsNoBoxAndNoPanelText)
 {
     Placa placa({.muda = true});
     PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin});
+    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo});
     form.Form_Load();
     EXPECT_EQ(txtinforme.contenido, cabecera + "Programador..... NO EXISTE CONECCION\r\n");
     EXPECT_TRUE(avisos.mostrados.empty());
@@ -70,7 +72,7 @@ TEST_F(Form1Test, TheFirstLineReplacesWhateverTheLogHeld)
     txtinforme.contenido = "texto de antes";
     Placa placa;
     PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin});
+    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo});
     form.Form_Load();
     EXPECT_EQ(txtinforme.contenido.rfind(cabecera, 0), 0u);
 }
@@ -79,19 +81,24 @@ TEST_F(Form1Test, StartUpRunsItsStepsInOrder)
 {
     PuertoGuion puerto(&bitacora);
     puerto.alescribir = [&](const std::string& d) { puerto.llegara(d); };
-    Form1 form(controles(), {puerto, reloj, avisos, skin});
+    cuadriculas.fgascii.alcambiar = [&](Cambio c) {
+        if (c == Cambio::aspecto)
+            bitacora.sucesos.push_back("fgascii aspecto");
+        if (c == Cambio::forma && cuadriculas.fgascii.Rows() == filasrejilla)
+            bitacora.sucesos.push_back("fgascii formada");
+    };
+    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo});
     form.Form_Load();
 
     const std::vector<std::string> pasos{"skin aplicar",
                                          "abrir color 221,247,224",
                                          "editado color 221,247,224",
                                          "informe color 221,247,224",
-                                         "cuadriculas color 221,247,224",
-                                         "cuadriculas lineas 0,0,0",
+                                         "fgascii aspecto",
                                          "panel 1 Programador de memorias EEPROM AT28c64b por Varnimo",
                                          "escribir c",
                                          "cerrar",
-                                         "dibujareditor",
+                                         "fgascii formada",
                                          "editado deshabilitado"};
     auto desde = bitacora.sucesos.begin();
     for (const std::string& paso : pasos) {
@@ -100,7 +107,6 @@ TEST_F(Form1Test, StartUpRunsItsStepsInOrder)
         desde = hallado;
     }
     EXPECT_EQ(bitacora.sucesos.back(), "editado deshabilitado");
-    EXPECT_EQ(cuadriculas.dibujos, 1);
 }
 
 TEST_F(Form1Test, StartUpDressesTheWindowAndLeavesEveryCommandButEditadoEnabled)
@@ -108,7 +114,7 @@ TEST_F(Form1Test, StartUpDressesTheWindowAndLeavesEveryCommandButEditadoEnabled)
     skin.actual = Color{10, 20, 30};
     Placa placa;
     PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin});
+    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo});
     form.Form_Load();
     EXPECT_EQ(skin.aplicados, std::vector<Formulario>{Formulario::Form1});
     for (const BotonFalso& boton : botones) {
@@ -116,8 +122,10 @@ TEST_F(Form1Test, StartUpDressesTheWindowAndLeavesEveryCommandButEditadoEnabled)
         EXPECT_EQ(boton.apariencia, Apariencia::plana);
     }
     EXPECT_EQ(txtinforme.fondo, (Color{10, 20, 30}));
-    EXPECT_EQ(cuadriculas.fondo, (Color{10, 20, 30}));
-    EXPECT_EQ(cuadriculas.lineas, negro);
+    for (const Rejilla* rejilla : {&cuadriculas.fgdir, &cuadriculas.fghex, &cuadriculas.fgascii}) {
+        EXPECT_EQ(rejilla->BackColor(), (Color{10, 20, 30}));
+        EXPECT_EQ(rejilla->GridColor(), negro);
+    }
     EXPECT_FALSE(botones[7].habilitado);
     EXPECT_TRUE(std::all_of(botones.begin(), botones.begin() + 7, [](const BotonFalso& b) { return b.habilitado; }));
     EXPECT_FALSE(form.edicion().edicionhabilitada);

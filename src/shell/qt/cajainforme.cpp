@@ -28,6 +28,9 @@ std::string CajaInforme::texto() const
 void CajaInforme::ponertexto(const std::string& texto)
 {
     setPlainText(QString::fromStdString(texto).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+    // The newest line is the one to see.
+    moveCursor(QTextCursor::End);
+    ensureCursorVisible();
 }
 
 void CajaInforme::ponercolor(Color fondo)

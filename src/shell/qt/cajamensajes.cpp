@@ -15,9 +15,11 @@ QMessageBox::Icon iconoqt(Icono icono)
     case Icono::critico:
         return QMessageBox::Critical;
     case Icono::informacion:
+        return QMessageBox::Information;
+    case Icono::ninguno:
         break;
     }
-    return QMessageBox::Information;
+    return QMessageBox::NoIcon;
 }
 
 } // namespace
@@ -25,8 +27,10 @@ QMessageBox::Icon iconoqt(Icono icono)
 void CajaMensajes::mostrar(const Aviso& aviso)
 {
     QString texto = QString::fromStdString(aviso.texto).replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    QMessageBox caja(iconoqt(aviso.icono), QString::fromStdString(aviso.titulo), texto, QMessageBox::Ok,
-                     QApplication::activeWindow());
+    // A box without a title of its own takes the program's name, as on the desktop.
+    const QString titulo =
+        aviso.titulo.empty() ? QApplication::applicationName() : QString::fromStdString(aviso.titulo);
+    QMessageBox caja(iconoqt(aviso.icono), titulo, texto, QMessageBox::Ok, QApplication::activeWindow());
     caja.setTextFormat(Qt::PlainText);
     caja.exec();
 }

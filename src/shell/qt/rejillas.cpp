@@ -1,58 +1,49 @@
 #include "shell/qt/rejillas.h"
 
 #include "shell/qt/twips.h"
-
-#include <QFrame>
+#include "shell/qt/vistarejilla.h"
 
 namespace eeprog {
 
 namespace {
 
-QFrame* rejilla(QWidget* ventana, const char* nombre, QRect lugar)
+// Courier New is served by Liberation Mono where it is missing. Terminal, a Windows
+// bitmap font, by DejaVu Sans Mono, which has a glyph for each of the 256 codes.
+QFont letra(QStringList familias)
 {
-    auto* marco = new QFrame(ventana);
-    marco->setObjectName(nombre);
-    marco->setAccessibleName(nombre);
-    marco->setFrameStyle(QFrame::Box | QFrame::Plain);
-    marco->setAutoFillBackground(true);
-    marco->setGeometry(lugar);
-    marco->hide();
-    return marco;
+    QFont fuente;
+    fuente.setFamilies(familias);
+    fuente.setStyleHint(QFont::Monospace);
+    fuente.setPointSize(9);
+    return fuente;
 }
 
-void colorear(QFrame* marco, QPalette::ColorRole papel, Color color)
+VistaRejilla* rejilla(Rejilla& modelo, VistaRejilla::Letras letras, const QFont& fuente, const char* nombre,
+                      QRect lugar, QWidget* ventana)
 {
-    QPalette paleta = marco->palette();
-    paleta.setColor(papel, acolorqt(color));
-    marco->setPalette(paleta);
+    auto* vista = new VistaRejilla(modelo, letras, ventana);
+    vista->setObjectName(nombre);
+    vista->setAccessibleName(nombre);
+    vista->setFont(fuente);
+    vista->setGeometry(lugar);
+    vista->raise();
+    return vista;
 }
 
 } // namespace
 
-Rejillas::Rejillas(QWidget* ventana)
-    : fgdir_(rejilla(ventana, "fgdir", rectangulo(120, 1800, 900, 3735))),
-      fghex_(rejilla(ventana, "fghex", rectangulo(645, 1800, 5205, 3735))),
-      fgascii_(rejilla(ventana, "fgascii", rectangulo(5475, 1800, 3420, 3735)))
-{}
-
-void Rejillas::dibujareditor()
+Rejillas::Rejillas(Cuadriculas& cuadriculas, QWidget* ventana)
 {
-    for (QFrame* marco : {fgdir_, fghex_, fgascii_}) {
-        marco->show();
-        marco->raise();
-    }
-}
-
-void Rejillas::ponercolor(Color fondo)
-{
-    for (QFrame* marco : {fgdir_, fghex_, fgascii_})
-        colorear(marco, QPalette::Window, fondo);
-}
-
-void Rejillas::ponercolorlineas(Color lineas)
-{
-    for (QFrame* marco : {fgdir_, fghex_, fgascii_})
-        colorear(marco, QPalette::WindowText, lineas);
+    const QFont courier = letra({"Courier New", "Liberation Mono", "DejaVu Sans Mono"});
+    const QFont terminal = letra({"Terminal", "DejaVu Sans Mono", "Liberation Mono"});
+    fgdir_ = rejilla(cuadriculas.fgdir, VistaRejilla::Letras::texto, courier, "fgdir", rectangulo(120, 1800, 900, 3735),
+                     ventana);
+    fghex_ = rejilla(cuadriculas.fghex, VistaRejilla::Letras::texto, courier, "fghex",
+                     rectangulo(645, 1800, 5205, 3735), ventana);
+    fgascii_ = rejilla(cuadriculas.fgascii, VistaRejilla::Letras::glifos, terminal, "fgascii",
+                       rectangulo(5475, 1800, 3420, 3735), ventana);
+    QWidget::setTabOrder(fgascii_, fghex_);
+    QWidget::setTabOrder(fghex_, fgdir_);
 }
 
 } // namespace eeprog

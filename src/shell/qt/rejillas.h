@@ -2,30 +2,26 @@
 
 #include "editor/cuadriculas.h"
 
-class QFrame;
 class QWidget;
 
 namespace eeprog {
 
-// The three grids of the memory editor in their places on the window. They overlap:
-// fgascii lies over fghex, and fghex over fgdir, so only fgascii's scroll bar shows.
-// For now each is a framed area in the skin colour; the cells come with the editor.
-class Rejillas : public Cuadriculas {
+class VistaRejilla;
+
+// The three grid widgets in their places on the window. They overlap: fgascii lies over
+// fghex, and fghex over fgdir, so that only fgascii's vertical scroll bar is in sight.
+class Rejillas {
 public:
-    explicit Rejillas(QWidget* ventana);
+    Rejillas(Cuadriculas& cuadriculas, QWidget* ventana);
 
-    void dibujareditor() override;
-    void ponercolor(Color fondo) override;
-    void ponercolorlineas(Color lineas) override;
-
-    QFrame* fgdir() const { return fgdir_; }
-    QFrame* fghex() const { return fghex_; }
-    QFrame* fgascii() const { return fgascii_; }
+    VistaRejilla& fgdir() const { return *fgdir_; }
+    VistaRejilla& fghex() const { return *fghex_; }
+    VistaRejilla& fgascii() const { return *fgascii_; }
 
 private:
-    QFrame* fgdir_;
-    QFrame* fghex_;
-    QFrame* fgascii_;
+    VistaRejilla* fgdir_;
+    VistaRejilla* fghex_;
+    VistaRejilla* fgascii_;
 };
 
 } // namespace eeprog

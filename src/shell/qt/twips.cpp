@@ -22,6 +22,11 @@ int pixeles(int twips)
     return static_cast<int>(std::lround(twips * puntosporpulgada() / 1440.0));
 }
 
+int twipsde(int pixeles)
+{
+    return static_cast<int>(std::lround(pixeles * 1440.0 / puntosporpulgada()));
+}
+
 QRect rectangulo(int izquierda, int arriba, int ancho, int alto)
 {
     return {pixeles(izquierda), pixeles(arriba), pixeles(ancho), pixeles(alto)};

@@ -9,6 +9,8 @@ namespace eeprog {
 
 // Lengths of the window are given in twips, 1/1440 inch, and drawn at the screen's DPI.
 int pixeles(int twips);
+// The other way: the twips that a length on the screen stands for.
+int twipsde(int pixeles);
 QRect rectangulo(int izquierda, int arriba, int ancho, int alto);
 
 QColor acolorqt(Color color);

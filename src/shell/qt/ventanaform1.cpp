@@ -5,9 +5,11 @@
 #include "shell/qt/botonimagen.h"
 #include "shell/qt/cajainforme.h"
 #include "shell/qt/cajamensajes.h"
+#include "shell/qt/dialogocomun.h"
 #include "shell/qt/puertoserie.h"
 #include "shell/qt/rejillas.h"
 #include "shell/qt/twips.h"
+#include "shell/qt/vistarejilla.h"
 
 #include <QApplication>
 #include <QMenuBar>
@@ -39,11 +41,20 @@ constexpr std::array<Palabras, 8> botones{{
     {"editado", "EDITADO", "Editar  el programa"},
 }};
 
+QAction* opcion(QMenu* menu, const char* nombre, const char* texto, const char* atajo)
+{
+    QAction* accion = menu->addAction(QString::fromUtf8(texto));
+    accion->setObjectName(QString::fromUtf8(nombre));
+    accion->setShortcut(QKeySequence(QString::fromUtf8(atajo)));
+    return accion;
+}
+
 } // namespace
 
 Dependencias dependenciasreales()
 {
-    return {std::make_unique<PuertoSerie>(), std::make_unique<CajaMensajes>(), std::make_unique<RelojSistema>()};
+    return {std::make_unique<PuertoSerie>(), std::make_unique<CajaMensajes>(), std::make_unique<RelojSistema>(),
+            std::make_unique<DialogoComun>()};
 }
 
 VentanaForm1::VentanaForm1(Dependencias dependencias, QWidget* padre)
@@ -55,11 +66,17 @@ VentanaForm1::VentanaForm1(Dependencias dependencias, QWidget* padre)
     crearcontroles(lienzo);
     crearmenu();
     skin_.registrar(Formulario::Form1, this);
-    logica_.emplace(controles(), Servicios{*dependencias_.puerto, *dependencias_.reloj, *dependencias_.avisos, skin_});
+    logica_.emplace(controles(), Servicios{*dependencias_.puerto, *dependencias_.reloj, *dependencias_.avisos, skin_,
+                                           *dependencias_.CommonDialog1});
+    conectarbotones();
     dimensionar();
 }
 
-VentanaForm1::~VentanaForm1() = default;
+// The widgets go before the grids and the logic they show.
+VentanaForm1::~VentanaForm1()
+{
+    delete takeCentralWidget();
+}
 
 void VentanaForm1::crearcontroles(QWidget* lienzo)
 {
@@ -67,7 +84,7 @@ void VentanaForm1::crearcontroles(QWidget* lienzo)
     txtinforme_ = new CajaInforme(lienzo);
     txtinforme_->setGeometry(rectangulo(120, 960, 8775, 735));
     txtinforme_->setAccessibleName(QStringLiteral("txtinforme"));
-    rejillas_ = std::make_unique<Rejillas>(lienzo);
+    rejillas_ = std::make_unique<Rejillas>(cuadriculas_, lienzo);
     ProgressBar1_ = new Barra(lienzo);
     ProgressBar1_->setGeometry(rectangulo(120, 5640, 8655, 255));
     ProgressBar1_->setToolTip(QStringLiteral("Barra que muestra el progreso del proceso que se haya elegido"));
@@ -86,14 +103,24 @@ void VentanaForm1::crearbotones(QWidget* lienzo)
     }
 }
 
-// Salir ends the run at once: no question, nothing saved.
+void VentanaForm1::conectarbotones()
+{
+    connect(botones_[0], &BotonImagen::Click, this, [this] { logica_->abrir_Click(); });
+    connect(botones_[1], &BotonImagen::Click, this, [this] { logica_->guardar_Click(); });
+}
+
+// A menu entry does what its button does, the button's look included. Salir ends the run
+// at once: no question, nothing saved.
 void VentanaForm1::crearmenu()
 {
     QMenu* menuarchivo = menuBar()->addMenu(QStringLiteral("&Archivo"));
-    QAction* Opcionsalir = menuarchivo->addAction(QStringLiteral("&Salir"));
-    Opcionsalir->setObjectName(QStringLiteral("Opcionsalir"));
-    Opcionsalir->setShortcut(QKeySequence(QStringLiteral("Ctrl+X")));
-    connect(Opcionsalir, &QAction::triggered, qApp, [] { QCoreApplication::exit(0); });
+    connect(opcion(menuarchivo, "opcionabrir", "&Abrir", "Ctrl+A"), &QAction::triggered, this,
+            [this] { logica_->abrir_Click(); });
+    connect(opcion(menuarchivo, "opcionguardar", "&Guardar", "Ctrl+G"), &QAction::triggered, this,
+            [this] { logica_->guardar_Click(); });
+    menuarchivo->addSeparator()->setObjectName(QStringLiteral("lineaseparadora1"));
+    connect(opcion(menuarchivo, "Opcionsalir", "&Salir", "Ctrl+X"), &QAction::triggered, qApp,
+            [] { QCoreApplication::exit(0); });
 }
 
 // The client area has a fixed size in twips; the window opens centred on the screen.
@@ -112,7 +139,7 @@ Controles VentanaForm1::controles()
 {
     Botones b{*botones_[0], *botones_[1], *botones_[2], *botones_[3],
               *botones_[4], *botones_[5], *botones_[6], *botones_[7]};
-    return {*txtinforme_, *StatusBar1_, *ProgressBar1_, b, *rejillas_};
+    return {*txtinforme_, *StatusBar1_, *ProgressBar1_, b, cuadriculas_};
 }
 
 // The window's start-up runs when it is first shown, before it is on the screen.

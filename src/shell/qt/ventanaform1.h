@@ -1,7 +1,9 @@
 #pragma once
 
+#include "editor/cuadriculas.h"
 #include "link/puerto.h"
 #include "plataforma/avisos.h"
+#include "plataforma/dialogo.h"
 #include "plataforma/reloj.h"
 #include "shell/form1.h"
 #include "shell/qt/motorskin.h"
@@ -24,9 +26,11 @@ struct Dependencias {
     std::unique_ptr<Puerto> puerto;
     std::unique_ptr<Avisos> avisos;
     std::unique_ptr<Reloj> reloj;
+    std::unique_ptr<Dialogo> CommonDialog1;
 };
 
-// The serial port of the system, message boxes on the screen and the system clock.
+// The serial port of the system, message boxes and file dialogs on the screen, and the
+// system clock.
 Dependencias dependenciasreales();
 
 // The main window: its controls in their places, and the logic of Form1 behind them.
@@ -41,6 +45,7 @@ public:
     Barra& ProgressBar1() const { return *ProgressBar1_; }
     BotonImagen& boton(int indice) const { return *botones_.at(static_cast<std::size_t>(indice)); }
     Rejillas& rejillas() const { return *rejillas_; }
+    Cuadriculas& cuadriculas() { return cuadriculas_; }
     Form1& logica() { return *logica_; }
 
 protected:
@@ -50,11 +55,13 @@ private:
     void crearcontroles(QWidget* lienzo);
     void crearbotones(QWidget* lienzo);
     void crearmenu();
+    void conectarbotones();
     void dimensionar();
     Controles controles();
 
     Dependencias dependencias_;
     MotorSkin skin_;
+    Cuadriculas cuadriculas_;
     CajaInforme* txtinforme_ = nullptr;
     BarraEstado* StatusBar1_ = nullptr;
     Barra* ProgressBar1_ = nullptr;
