@@ -14,10 +14,13 @@
 #include <QApplication>
 #include <QFrame>
 #include <QMenuBar>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 namespace eeprog {
 namespace {
@@ -35,14 +38,17 @@ protected:
         puerto_ = puerto.get();
         auto avisos = std::make_unique<AvisosFalsos>();
         avisos_ = avisos.get();
-        auto ventana = std::make_unique<VentanaForm1>(Dependencias{
-            std::move(puerto), std::move(avisos), std::make_unique<RelojFijo>(), std::make_unique<DialogoFalso>()});
+        auto dialogo = std::make_unique<DialogoFalso>();
+        dialogo_ = dialogo.get();
+        auto ventana = std::make_unique<VentanaForm1>(
+            Dependencias{std::move(puerto), std::move(avisos), std::make_unique<RelojFijo>(), std::move(dialogo)});
         ventana->show();
         return ventana;
     }
 
     PuertoPlaca* puerto_ = nullptr;
     AvisosFalsos* avisos_ = nullptr;
+    DialogoFalso* dialogo_ = nullptr;
 };
 
 const std::string cabecera = "Programador de memorias EEPROM AT28c64b por Varnimo\r\n"
@@ -131,6 +137,64 @@ TEST_F(VentanaTest, TheLogKeepsWhatTheUserTypesAndTheNextLineFollowsIt)
     log.moveCursor(QTextCursor::End);
     QTest::keyClicks(&log, "hola");
     EXPECT_EQ(log.texto(), cabecera + "Programador..... C O N E C T A D O !!!!\r\nhola");
+}
+
+TEST_F(VentanaTest, TheAbrirButtonShowsTheFilesBytesInTheGridsAndNamesItInTheStatusBar)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    const std::string nombre = testing::TempDir() + "ventana.hex";
+    std::ofstream(nombre, std::ios::binary) << ":0300300002337A1E\r\n:00000001FF\r\n";
+    dialogo_->elegir = nombre;
+    QTest::mouseClick(&ventana->boton(0), Qt::LeftButton);
+    const Cuadriculas& c = ventana->cuadriculas();
+    EXPECT_EQ(c.fghex.TextMatrix(3, 2), "7A");
+    EXPECT_EQ(c.fgascii.TextMatrix(3, 2), "z");
+    EXPECT_EQ(ventana->StatusBar1().textopanel(1).toStdString(), nombre);
+    EXPECT_EQ(ventana->StatusBar1().textopanel(2).toStdString(), "50 Bytes = 32 Hexa");
+    EXPECT_TRUE(ventana->txtinforme().texto().ends_with(
+        "10:11:12... Archivo = ventana.hex      Tamaño = 50 Bytes = 32 Hexa\r\n"));
+    EXPECT_EQ(ventana->boton(0).apariencia(), Apariencia::plana);
+}
+
+TEST_F(VentanaTest, CtrlAAndCtrlGShowTheOpenAndTheSaveDialog)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    ventana->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
+    QTest::keyClick(ventana.get(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(ventana.get(), Qt::Key_G, Qt::ControlModifier);
+    ASSERT_EQ(dialogo_->mostrados.size(), 2u);
+    EXPECT_FALSE(dialogo_->mostrados[0].guardar);
+    EXPECT_TRUE(dialogo_->mostrados[1].guardar);
+}
+
+TEST_F(VentanaTest, FgasciisScrollBarMovesTheRowsOfAllThreeGrids)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    Rejillas& r = ventana->rejillas();
+    r.fgascii().verticalScrollBar()->setValue(2048);
+    for (VistaRejilla* vista : {&r.fgdir(), &r.fghex(), &r.fgascii()}) {
+        EXPECT_EQ(vista->rejilla().TopRow(), 2048);
+        EXPECT_EQ(vista->verticalScrollBar()->value(), 2048);
+    }
+    EXPECT_EQ(r.fgdir().rectangulocelda(2048, 0).top(), r.fgascii().rectangulocelda(2048, 0).top())
+        << "the rows line up across the grids";
+}
+
+TEST_F(VentanaTest, AClickOnAByteShowsItInPanelsThreeToFive)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    ponerbyte(ventana->cuadriculas(), 2, 1, 0x41);
+    VistaRejilla& fghex = ventana->rejillas().fghex();
+    const QPoint punto = fghex.viewport()->mapFromParent(fghex.rectangulocelda(2, 1).center());
+    QTest::mouseClick(fghex.viewport(), Qt::LeftButton, {}, punto);
+    EXPECT_EQ(ventana->StatusBar1().textopanel(3).toStdString(), "Dir= 21");
+    EXPECT_EQ(ventana->StatusBar1().textopanel(4).toStdString(), "Hex= 41");
+    EXPECT_EQ(ventana->StatusBar1().textopanel(5).toStdString(), "Ascii= A");
 }
 
 // Salir and the close box both end the run with no question; the event loop returning
