@@ -157,6 +157,22 @@ TEST_F(VentanaTest, TheAbrirButtonShowsTheFilesBytesInTheGridsAndNamesItInTheSta
     EXPECT_EQ(ventana->boton(0).apariencia(), Apariencia::plana);
 }
 
+TEST_F(VentanaTest, TheKeyboardStartsInFgasciiAndTabGoesOnToFghexThenFgdir)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    ventana->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
+    Rejillas& r = ventana->rejillas();
+    EXPECT_TRUE(r.fgascii().hasFocus());
+    QTest::keyClick(&r.fgascii(), Qt::Key_Down);
+    EXPECT_EQ(r.fgascii().rejilla().Row(), 1);
+    QTest::keyClick(&r.fgascii(), Qt::Key_Tab);
+    EXPECT_TRUE(r.fghex().hasFocus());
+    QTest::keyClick(&r.fghex(), Qt::Key_Tab);
+    EXPECT_TRUE(r.fgdir().hasFocus());
+}
+
 TEST_F(VentanaTest, CtrlAAndCtrlGShowTheOpenAndTheSaveDialog)
 {
     Placa placa;

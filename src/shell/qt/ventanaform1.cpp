@@ -148,6 +148,8 @@ void VentanaForm1::showEvent(QShowEvent* evento)
     if (!cargada_) {
         cargada_ = true;
         logica_->Form_Load();
+        // fgascii comes first in the tab order, so the keyboard starts there.
+        rejillas_->fgascii().setFocus(Qt::OtherFocusReason);
     }
     QMainWindow::showEvent(evento);
 }
