@@ -1,3 +1,4 @@
+#include "shell/qt/idioma.h"
 #include "shell/qt/ventanaform1.h"
 
 #include <QApplication>
@@ -5,6 +6,7 @@
 int main(int argc, char* argv[])
 {
     QApplication aplicacion(argc, argv);
+    eeprog::hablarespanol(aplicacion);
     eeprog::VentanaForm1 Form1;
     Form1.show();
     return aplicacion.exec();
