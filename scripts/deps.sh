@@ -6,7 +6,9 @@ set -euo pipefail
 paquetes=(
   cmake ninja-build g++ pkg-config
   qt6-base-dev qt6-serialport-dev libqt6serialport6 qt6-qpa-plugins
+  qt6-translations-l10n  # Qt's own dialog buttons in Spanish
   libgtest-dev libgmock-dev libbenchmark-dev
+  binutils srecord  # objcopy and srec_cat: the tests open the files they make
   fonts-liberation2 fonts-dejavu-core
 )
 

@@ -57,8 +57,12 @@ bool escribirarchivo(const std::string& nombre, std::string_view texto)
     copia += ".eeprog-nuevo";
     std::error_code error;
     if (!volcar(copia, texto)) {
+        // A copy that could not be made at all (a folder the user may not write to) leaves the
+        // file to be written in place. A copy that was made but not filled says the disk will not
+        // take the text: writing in place then would only spoil the old file.
+        const bool hecha = fs::is_regular_file(fs::symlink_status(copia, error));
         fs::remove(copia, error);
-        return volcar(ruta, texto);
+        return !hecha && volcar(ruta, texto);
     }
     fs::permissions(copia, fs::status(ruta, error).permissions(), error);
     fs::rename(copia, ruta, error);
