@@ -27,8 +27,6 @@ Alineacion alineacionde(std::string_view marca)
 
 } // namespace
 
-Rejilla::Rejilla() = default;
-
 void Rejilla::Rows(int filas)
 {
     celdas_.dimensionar(filas, Cols());

@@ -39,8 +39,6 @@ public:
     // to cells out of sight are not reported, so filling the whole grid costs no drawing.
     std::function<void(Cambio)> alcambiar;
 
-    Rejilla();
-
     int Rows() const { return celdas_.filas(); }
     void Rows(int filas);
     int Cols() const { return celdas_.columnas(); }

@@ -3,8 +3,10 @@
 #include "plataforma/avisos.h"
 #include "plataforma/dialogo.h"
 #include "plataforma/informe.h"
-#include "records/mostrarvector.h"
+#include "records/archivoabierto.h"
 #include "records/registros.h"
+
+#include <string>
 
 namespace eeprog {
 

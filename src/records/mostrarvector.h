@@ -3,18 +3,10 @@
 #include "editor/cuadriculas.h"
 #include "plataforma/informe.h"
 #include "plataforma/paneles.h"
+#include "records/archivoabierto.h"
 #include "records/registros.h"
 
-#include <string>
-
 namespace eeprog {
-
-// The file that was read last: its whole text, its full path and its name alone.
-struct ArchivoAbierto {
-    std::string textoarchivo;
-    std::string nombrearchivo;
-    std::string tituloarchivo;
-};
 
 // Where mostrarvector shows a file.
 struct PantallaArchivo {

@@ -2,6 +2,7 @@
 
 #include "records/apertura.h"
 #include "records/guardado.h"
+#include "records/mostrarvector.h"
 #include "shell/aplicarskin.h"
 
 namespace eeprog {
@@ -16,6 +17,16 @@ Form1::Form1(Controles controles, Servicios servicios)
       informe_(controles.txtinforme, servicios.reloj), acoplamiento_(controles.cuadriculas, controles.StatusBar1)
 {
     conectareventos();
+}
+
+// The grids may outlive the logic; they must not call it then.
+Form1::~Form1()
+{
+    for (Rejilla* rejilla :
+         {&controles_.cuadriculas.fgdir, &controles_.cuadriculas.fghex, &controles_.cuadriculas.fgascii}) {
+        rejilla->Scroll = nullptr;
+        rejilla->MouseUp = nullptr;
+    }
 }
 
 void Form1::conectareventos()

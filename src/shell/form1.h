@@ -15,7 +15,7 @@
 #include "plataforma/paneles.h"
 #include "plataforma/reloj.h"
 #include "plataforma/skin.h"
-#include "records/mostrarvector.h"
+#include "records/archivoabierto.h"
 #include "records/registros.h"
 
 #include <array>
@@ -65,6 +65,7 @@ struct Servicios {
 class Form1 {
 public:
     Form1(Controles controles, Servicios servicios);
+    ~Form1();
     Form1(const Form1&) = delete;
     Form1& operator=(const Form1&) = delete;
 
