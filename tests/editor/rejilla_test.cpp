@@ -153,13 +153,5 @@ TEST_F(RejillaTest, TheCurrentCellsRectangleIsMeasuredFromTheFirstCellInSight)
     EXPECT_EQ(rejilla.CellLeft(), 960);
 }
 
-TEST_F(RejillaTest, FormatStringSetsTheAlignmentOfEachColumn)
-{
-    rejilla.FormatString("^|>");
-    EXPECT_EQ(rejilla.ColAlignment(0), Alineacion::centro);
-    EXPECT_EQ(rejilla.ColAlignment(1), Alineacion::derecha);
-    EXPECT_EQ(rejilla.ColAlignment(2), Alineacion::general);
-}
-
 } // namespace
 } // namespace eeprog
