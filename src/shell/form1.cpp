@@ -1,5 +1,9 @@
 #include "shell/form1.h"
 
+#include "device/grabacion.h"
+#include "device/lectura.h"
+#include "device/verificacion.h"
+#include "editor/loadgrid.h"
 #include "records/apertura.h"
 #include "records/guardado.h"
 #include "records/mostrarvector.h"
@@ -89,8 +93,52 @@ void Form1::guardar_Click()
 {
     Boton& guardar = controles_.botones.guardar;
     aspectopresionado(guardar, servicios_.skin);
-    guardararchivo(servicios_.CommonDialog1, textoleido_, informe_, servicios_.avisos);
+    guardararchivo(servicios_.CommonDialog1, leido_.textoleido, informe_, servicios_.avisos);
     aspectonormal(guardar, servicios_.skin);
+}
+
+Marco Form1::marco()
+{
+    return Marco(enlace_, {controles_.StatusBar1, informe_, servicios_.avisos, servicios_.skin});
+}
+
+PantallaOperacion Form1::pantallaoperacion()
+{
+    return {controles_.StatusBar1, controles_.ProgressBar1, informe_};
+}
+
+// The port stays open while the grids are filled; the frame closes it afterwards.
+void Form1::leer_Click()
+{
+    marco().ejecutar(controles_.botones.leer, palabras::leer, [this] {
+        lectura(enlace_, leido_, pantallaoperacion());
+        informe_.lineaconhora("... Lectura Concluida!!!");
+        loadgrid(controles_.cuadriculas, leido_.vectorleido);
+    });
+}
+
+// The words of success say that the run came to its end, not that every echo was right.
+void Form1::grabar_Click()
+{
+    marco().ejecutar(controles_.botones.grabar, palabras::grabar, [this] {
+        grabacion(enlace_, registros_, pantallaoperacion());
+        controles_.StatusBar1.panel(1, "G R A V A C I O N    E X I T O S A ...!!!");
+        informe_.lineaconhora("... Grabacion Exitosa!!!");
+    });
+}
+
+void Form1::verificar_Click()
+{
+    marco().ejecutar(controles_.botones.verificar, palabras::verificar, [this] {
+        verificacion(enlace_, registros_, pantallaoperacion());
+        informe_.lineaconhora("... Termina Verificacion!!!");
+    });
+}
+
+void Form1::borrar_Click()
+{
+    aspectopresionado(controles_.botones.borrar, servicios_.skin);
+    aspectonormal(controles_.botones.borrar, servicios_.skin);
 }
 
 } // namespace eeprog

@@ -2,6 +2,7 @@
 
 #include "editor/acoplamiento.h"
 #include "editor/cuadriculas.h"
+#include "device/leido.h"
 #include "editor/edicion.h"
 #include "link/conexion.h"
 #include "link/enlace.h"
@@ -15,6 +16,7 @@
 #include "plataforma/paneles.h"
 #include "plataforma/reloj.h"
 #include "plataforma/skin.h"
+#include "device/pantallaoperacion.h"
 #include "records/archivoabierto.h"
 #include "records/registros.h"
 
@@ -78,14 +80,23 @@ public:
     void abrir_Click();
     // Saves the last read of the chip.
     void guardar_Click();
+    // The device operations, each inside the frame of the connection check.
+    void leer_Click();
+    void grabar_Click();
+    void verificar_Click();
+    // There is no erase command on the board: the button only shows its pressed look.
+    void borrar_Click();
 
     const Edicion& edicion() const { return edicion_; }
     const Registros& registros() const { return registros_; }
     const ArchivoAbierto& archivo() const { return archivo_; }
+    const Leido& leido() const { return leido_; }
 
 private:
     void comprobarplaca();
     void conectareventos();
+    Marco marco();
+    PantallaOperacion pantallaoperacion();
 
     Controles controles_;
     Servicios servicios_;
@@ -95,8 +106,7 @@ private:
     Acoplamiento acoplamiento_;
     Registros registros_;
     ArchivoAbierto archivo_;
-    // The last read of the chip as Intel HEX lines; empty until a read.
-    std::string textoleido_;
+    Leido leido_;
 };
 
 } // namespace eeprog

@@ -107,6 +107,10 @@ void VentanaForm1::conectarbotones()
 {
     connect(botones_[0], &BotonImagen::Click, this, [this] { logica_->abrir_Click(); });
     connect(botones_[1], &BotonImagen::Click, this, [this] { logica_->guardar_Click(); });
+    connect(botones_[2], &BotonImagen::Click, this, [this] { logica_->leer_Click(); });
+    connect(botones_[3], &BotonImagen::Click, this, [this] { logica_->borrar_Click(); });
+    connect(botones_[4], &BotonImagen::Click, this, [this] { logica_->grabar_Click(); });
+    connect(botones_[5], &BotonImagen::Click, this, [this] { logica_->verificar_Click(); });
 }
 
 // A menu entry does what its button does, the button's look included. Salir ends the run
@@ -121,6 +125,20 @@ void VentanaForm1::crearmenu()
     menuarchivo->addSeparator()->setObjectName(QStringLiteral("lineaseparadora1"));
     connect(opcion(menuarchivo, "Opcionsalir", "&Salir", "Ctrl+X"), &QAction::triggered, qApp,
             [] { QCoreApplication::exit(0); });
+
+    // Seleccionar and Informacion have no work behind them.
+    QMenu* menudispositivo = menuBar()->addMenu(QStringLiteral("&Dispositivo"));
+    opcion(menudispositivo, "opcionseleccionar", "&Seleccionar", "Ctrl+S");
+    opcion(menudispositivo, "opcioinformacion", "&Informacion", "Ctrl+I");
+    menudispositivo->addSeparator()->setObjectName(QStringLiteral("lineaseparadora2"));
+    connect(opcion(menudispositivo, "opcionleer", "Leer", ""), &QAction::triggered, this,
+            [this] { logica_->leer_Click(); });
+    connect(opcion(menudispositivo, "opcionborrar", "Borrar", ""), &QAction::triggered, this,
+            [this] { logica_->borrar_Click(); });
+    connect(opcion(menudispositivo, "opcionverificar", "Verificar", ""), &QAction::triggered, this,
+            [this] { logica_->verificar_Click(); });
+    connect(opcion(menudispositivo, "opciongravar", "Gravar", ""), &QAction::triggered, this,
+            [this] { logica_->grabar_Click(); });
 }
 
 // The client area has a fixed size in twips; the window opens centred on the screen.

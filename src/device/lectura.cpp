@@ -1,0 +1,52 @@
+#include "device/lectura.h"
+
+#include "link/protocolo.h"
+#include "records/hexadecimal.h"
+
+namespace eeprog {
+
+namespace {
+
+constexpr int bloques = protocolo::tamanochip / protocolo::tamanobloque;
+
+// Count, address high, address low and type; the board's echoes are not looked at.
+void cabecera(Enlace& enlace, int alta, int baja)
+{
+    enlace.intercambio(protocolo::lectura);
+    enlace.intercambio(protocolo::dato(protocolo::tamanobloque));
+    enlace.intercambio(protocolo::dato(alta));
+    enlace.intercambio(protocolo::dato(baja));
+    enlace.intercambio(protocolo::dato(protocolo::tipodatos));
+}
+
+} // namespace
+
+void lectura(Enlace& enlace, Leido& leido, PantallaOperacion pantalla)
+{
+    int cuenta = 0;
+    leido.textoleido.clear();
+    leido.textoleido.reserve(45 * bloques);
+    enlace.intercambio(protocolo::comprobar);
+    pantalla.ProgressBar1.maximo(bloques);
+    for (int bloque = 0; bloque < bloques; ++bloque) {
+        const int direccion = bloque * protocolo::tamanobloque;
+        const int alta = protocolo::direccionalta(direccion);
+        const int baja = protocolo::direccionbaja(direccion);
+        cabecera(enlace, alta, baja);
+        int suma = protocolo::tamanobloque + alta + baja + protocolo::tipodatos;
+        std::string linea = ":10" + doscifras(alta) + doscifras(baja) + "00";
+        for (int k = 0; k < protocolo::tamanobloque; ++k) {
+            const int valor = protocolo::valorde(enlace.intercambio(protocolo::dato(k)));
+            suma += valor;
+            leido.vectorleido[static_cast<std::size_t>(cuenta++)] = static_cast<std::int16_t>(valor);
+            linea += doscifras(valor);
+            pantalla.StatusBar1.panel(1, std::to_string(cuenta) + "  Bytes leidos");
+        }
+        // The low byte of the two's complement of the sum: the Intel HEX checksum.
+        leido.textoleido += linea + doscifras(-suma & 0xFF) + std::string(saltolinea);
+        pantalla.ProgressBar1.valor(bloque);
+    }
+    pantalla.StatusBar1.panel(1, std::to_string(cuenta) + "  Bytes leidos = " + hexa(cuenta) + "H");
+}
+
+} // namespace eeprog
