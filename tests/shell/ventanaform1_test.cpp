@@ -3,6 +3,7 @@
 #include "pantallafalsa.h"
 #include "placa.h"
 #include "puertoplaca.h"
+#include "shell/qt/barra.h"
 #include "shell/qt/barraestado.h"
 #include "shell/qt/botonimagen.h"
 #include "shell/qt/cajainforme.h"
@@ -211,6 +212,37 @@ TEST_F(VentanaTest, AClickOnAByteShowsItInPanelsThreeToFive)
     EXPECT_EQ(ventana->StatusBar1().textopanel(3).toStdString(), "Dir= 21");
     EXPECT_EQ(ventana->StatusBar1().textopanel(4).toStdString(), "Hex= 41");
     EXPECT_EQ(ventana->StatusBar1().textopanel(5).toStdString(), "Ascii= A");
+}
+
+TEST_F(VentanaTest, TheLeerButtonReadsTheChipIntoTheGridsWithThePanelAndTheBarAtTheirEnd)
+{
+    Placa placa;
+    for (int direccion = 0; direccion < Placa::tamano; ++direccion)
+        placa.chip()[static_cast<std::size_t>(direccion)] = static_cast<unsigned char>(direccion * 7);
+    auto ventana = abrir(placa);
+    QTest::mouseClick(&ventana->boton(2), Qt::LeftButton);
+    const Cuadriculas& c = ventana->cuadriculas();
+    EXPECT_EQ(c.fghex.TextMatrix(0, 1), "07");
+    EXPECT_EQ(c.fgascii.TextMatrix(511, 15), std::string(1, static_cast<char>(8191 * 7)));
+    EXPECT_EQ(c.fghex.TextMatrix(512, 0), "FF");
+    EXPECT_EQ(ventana->StatusBar1().textopanel(1).toStdString(), "8192  Bytes leidos = 2000H");
+    EXPECT_EQ(ventana->ProgressBar1().maximum(), 512);
+    EXPECT_EQ(ventana->ProgressBar1().value(), 511);
+    EXPECT_EQ(ventana->boton(2).apariencia(), Apariencia::plana);
+    EXPECT_FALSE(puerto_->abierto());
+}
+
+TEST_F(VentanaTest, AProgressBarWithNothingToCountShowsEmptyRatherThanBusy)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    Barra& barra = ventana->ProgressBar1();
+    barra.maximo(512);
+    barra.valor(600);
+    EXPECT_EQ(barra.value(), 512);
+    barra.maximo(0);
+    EXPECT_GT(barra.maximum(), barra.minimum());
+    EXPECT_EQ(barra.value(), barra.minimum());
 }
 
 // Salir and the close box both end the run with no question; the event loop returning

@@ -12,9 +12,17 @@ Barra::Barra(QWidget* padre) : QProgressBar(padre)
     setTextVisible(false);
 }
 
+// A bar whose maximum is not above its minimum would turn into a busy indicator; with
+// nothing to count (verifying with no records) it shows empty instead.
 void Barra::maximo(double valor)
 {
-    setMaximum(static_cast<int>(std::lround(valor)));
+    const int tope = static_cast<int>(std::lround(valor));
+    if (tope > minimum()) {
+        setMaximum(tope);
+        return;
+    }
+    setMaximum(minimum() + 1);
+    setValue(minimum());
 }
 
 // A value past either end shows as that end.
