@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QFrame>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
@@ -230,6 +231,40 @@ TEST_F(VentanaTest, TheLeerButtonReadsTheChipIntoTheGridsWithThePanelAndTheBarAt
     EXPECT_EQ(ventana->ProgressBar1().value(), 511);
     EXPECT_EQ(ventana->boton(2).apariencia(), Apariencia::plana);
     EXPECT_FALSE(puerto_->abierto());
+}
+
+// A board that, on the first byte of an operation, has the user click LEER again.
+class PuertoImpaciente : public PuertoPlaca {
+public:
+    using PuertoPlaca::PuertoPlaca;
+    QWidget* boton = nullptr;
+    void escribir(const std::string& datos) override
+    {
+        if (boton != nullptr) {
+            const QPointF centro = QRectF(boton->rect()).center();
+            for (QEvent::Type tipo : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+                QCoreApplication::postEvent(boton, new QMouseEvent(tipo, centro, boton->mapToGlobal(centro),
+                                                                   Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+            boton = nullptr;
+        }
+        PuertoPlaca::escribir(datos);
+    }
+};
+
+TEST_F(VentanaTest, ClicksGivenWhileAnOperationRunsAreDroppedNotReplayed)
+{
+    Placa placa;
+    auto puerto = std::make_unique<PuertoImpaciente>(placa);
+    PuertoImpaciente& impaciente = *puerto;
+    VentanaForm1 ventana(Dependencias{std::move(puerto), std::make_unique<AvisosFalsos>(),
+                                      std::make_unique<RelojFijo>(), std::make_unique<DialogoFalso>()});
+    ventana.show();
+    impaciente.boton = &ventana.boton(2);
+    QTest::mouseClick(&ventana.boton(2), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(impaciente.aperturas(), 2) << "the start-up check and one read";
+    QTest::mouseClick(&ventana.boton(2), Qt::LeftButton);
+    EXPECT_EQ(impaciente.aperturas(), 3) << "the button works again afterwards";
 }
 
 TEST_F(VentanaTest, AProgressBarWithNothingToCountShowsEmptyRatherThanBusy)

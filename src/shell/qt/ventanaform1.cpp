@@ -2,6 +2,7 @@
 
 #include "shell/qt/barra.h"
 #include "shell/qt/barraestado.h"
+#include "shell/qt/bloqueo.h"
 #include "shell/qt/botonimagen.h"
 #include "shell/qt/cajainforme.h"
 #include "shell/qt/cajamensajes.h"
@@ -107,10 +108,11 @@ void VentanaForm1::conectarbotones()
 {
     connect(botones_[0], &BotonImagen::Click, this, [this] { logica_->abrir_Click(); });
     connect(botones_[1], &BotonImagen::Click, this, [this] { logica_->guardar_Click(); });
-    connect(botones_[2], &BotonImagen::Click, this, [this] { logica_->leer_Click(); });
+    connect(botones_[2], &BotonImagen::Click, this, [this] { bloquearentrada([this] { logica_->leer_Click(); }); });
     connect(botones_[3], &BotonImagen::Click, this, [this] { logica_->borrar_Click(); });
-    connect(botones_[4], &BotonImagen::Click, this, [this] { logica_->grabar_Click(); });
-    connect(botones_[5], &BotonImagen::Click, this, [this] { logica_->verificar_Click(); });
+    connect(botones_[4], &BotonImagen::Click, this, [this] { bloquearentrada([this] { logica_->grabar_Click(); }); });
+    connect(botones_[5], &BotonImagen::Click, this,
+            [this] { bloquearentrada([this] { logica_->verificar_Click(); }); });
 }
 
 // A menu entry does what its button does, the button's look included. Salir ends the run
@@ -132,13 +134,13 @@ void VentanaForm1::crearmenu()
     opcion(menudispositivo, "opcioinformacion", "&Informacion", "Ctrl+I");
     menudispositivo->addSeparator()->setObjectName(QStringLiteral("lineaseparadora2"));
     connect(opcion(menudispositivo, "opcionleer", "Leer", ""), &QAction::triggered, this,
-            [this] { logica_->leer_Click(); });
+            [this] { bloquearentrada([this] { logica_->leer_Click(); }); });
     connect(opcion(menudispositivo, "opcionborrar", "Borrar", ""), &QAction::triggered, this,
             [this] { logica_->borrar_Click(); });
     connect(opcion(menudispositivo, "opcionverificar", "Verificar", ""), &QAction::triggered, this,
-            [this] { logica_->verificar_Click(); });
+            [this] { bloquearentrada([this] { logica_->verificar_Click(); }); });
     connect(opcion(menudispositivo, "opciongravar", "Gravar", ""), &QAction::triggered, this,
-            [this] { logica_->grabar_Click(); });
+            [this] { bloquearentrada([this] { logica_->grabar_Click(); }); });
 }
 
 // The client area has a fixed size in twips; the window opens centred on the screen.
