@@ -63,8 +63,13 @@ class BarraFalsa : public BarraProgreso {
 public:
     double tope = 100;
     double actual = 0;
+    std::vector<double> valores; // every value set, in order
     void maximo(double v) override { tope = v; }
-    void valor(double v) override { actual = v; }
+    void valor(double v) override
+    {
+        actual = v;
+        valores.push_back(v);
+    }
 };
 
 class AvisosFalsos : public Avisos {
