@@ -14,6 +14,18 @@ struct Cuadriculas {
     Rejilla fgascii;
 };
 
+// Where each grid stands on the main window, in twips. They overlap: fgascii lies over
+// fghex, and fghex over fgdir.
+struct Lugar {
+    int izquierda;
+    int arriba;
+    int ancho;
+    int alto;
+};
+inline constexpr Lugar lugarfgdir{120, 1800, 900, 3735};
+inline constexpr Lugar lugarfghex{645, 1800, 5205, 3735};
+inline constexpr Lugar lugarfgascii{5475, 1800, 3420, 3735};
+
 inline constexpr int filasrejilla = 4096;
 inline constexpr int columnasrejilla = 16;
 

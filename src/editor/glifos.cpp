@@ -50,6 +50,16 @@ char32_t glifo(unsigned char codigo)
     return altos[codigo - 127u];
 }
 
+int codigode(char32_t letra)
+{
+    if (letra >= 32 && letra < 127)
+        return static_cast<int>(letra);
+    for (int codigo = 0; codigo < 256; ++codigo)
+        if (glifo(static_cast<unsigned char>(codigo)) == letra)
+            return codigo;
+    return -1;
+}
+
 std::string textovisible(std::string_view bytes)
 {
     std::string texto;

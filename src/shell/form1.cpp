@@ -1,6 +1,7 @@
 #include "shell/form1.h"
 
 #include "device/grabacion.h"
+#include "device/grabaredit.h"
 #include "device/lectura.h"
 #include "device/verificacion.h"
 #include "editor/loadgrid.h"
@@ -133,6 +134,35 @@ void Form1::verificar_Click()
         verificacion(enlace_, registros_, pantallaoperacion());
         informe_.lineaconhora("... Termina Verificacion!!!");
     });
+}
+
+// As with a file, success means the run came to its end: the echoes are not looked at.
+void Form1::editado_Click()
+{
+    marco().ejecutar(controles_.botones.editado, palabras::editado, [this] {
+        grabaredit(enlace_, controles_.cuadriculas, edicion_.filaeditada, pantallaoperacion());
+        controles_.StatusBar1.panel(1, "G R A V A C I O N    E X I T O S A ...!!!");
+        const std::string bytes = std::to_string(bytesgrabados(edicion_.filaeditada));
+        informe_.lineaconhora("... Grabacion Exitosa!!!... " + bytes + " Bytes Grabados");
+    });
+}
+
+void Form1::edit_Click()
+{
+    aspectopresionado(controles_.botones.edit, servicios_.skin);
+    controles_.botones.editado.habilitar(true);
+    edicion_.edicionhabilitada = true;
+    informe_.lineaconhora("... Opcion de Edicion Habilitada");
+}
+
+void Form1::opcionlimpiar_Click()
+{
+    Cuadriculas& c = controles_.cuadriculas;
+    for (int fila = 0; fila < filasrejilla; ++fila)
+        for (int columna = 0; columna < columnasrejilla; ++columna) {
+            c.fghex.TextMatrix(fila, columna, "FF");
+            c.fgascii.TextMatrix(fila, columna, "");
+        }
 }
 
 void Form1::borrar_Click()

@@ -84,10 +84,20 @@ public:
     void leer_Click();
     void grabar_Click();
     void verificar_Click();
+    // Programs the chip from the editor: rows 0 to the highest edited one.
+    void editado_Click();
     // There is no erase command on the board: the button only shows its pressed look.
     void borrar_Click();
 
+    // Edit mode on: the cell editors come up at the next cell entered, and editado can
+    // be used. The button keeps its pressed look from then on.
+    void edit_Click();
+    // Every cell of fghex shows an erased byte and every cell of fgascii holds nothing.
+    void opcionlimpiar_Click();
+
     const Edicion& edicion() const { return edicion_; }
+    // The cell editors work on it too.
+    Edicion& edicion() { return edicion_; }
     const Registros& registros() const { return registros_; }
     const ArchivoAbierto& archivo() const { return archivo_; }
     const Leido& leido() const { return leido_; }

@@ -1,11 +1,8 @@
+#include "banco.h"
 #include "chipprueba.h"
 #include "device/grabacion.h"
 #include "device/lectura.h"
 #include "device/verificacion.h"
-#include "link/conexion.h"
-#include "pantallafalsa.h"
-#include "placa.h"
-#include "puertoplaca.h"
 #include "records/apertura.h"
 
 #include <gtest/gtest.h>
@@ -21,36 +18,6 @@ namespace {
 using namespace prueba;
 
 const std::string ejemplo = ":0300100041424327\r\n:00000001FF\r\n";
-
-// The board in the same process, with the port open and the check passed, as the frame
-// leaves them before an operation runs.
-struct Banco {
-    explicit Banco(OpcionesPlaca opciones = {}) : placa(opciones)
-    {
-        enlace.serial();
-        EXPECT_TRUE(comprobarconexion(enlace));
-    }
-    PantallaOperacion pantalla() { return {paneles, barra, informe}; }
-    // What the operation sent, the frame's check left out.
-    std::string trafico() const { return puerto.enviados().substr(1); }
-    std::vector<std::string> panel1() const
-    {
-        std::vector<std::string> textos;
-        for (const std::string& suceso : bitacora.sucesos)
-            textos.push_back(suceso.substr(8)); // "panel 1 "
-        return textos;
-    }
-
-    Placa placa;
-    PuertoPlaca puerto{placa};
-    Enlace enlace{puerto};
-    Bitacora bitacora;
-    PanelesFalsos paneles{&bitacora};
-    BarraFalsa barra;
-    CajaFalsa caja;
-    RelojFijo reloj;
-    Informe informe{caja, reloj};
-};
 
 std::unique_ptr<Registros> registrosde(const std::string& texto)
 {

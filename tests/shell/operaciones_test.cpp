@@ -164,6 +164,30 @@ TEST_F(Operaciones, ProgrammingEndsWithTheSuccessWordsWhateverTheEchoes)
     }
 }
 
+// Row 0 goes out from the window's own grids even with nothing edited, yet the log counts
+// no byte. A board that hangs after the check changes none of it: no echo is looked at.
+TEST_F(Operaciones, ProgrammingFromTheEditorWithNothingEditedSendsRowZeroAndCountsNoByte)
+{
+    cuadriculas.fgascii.TextMatrix(0, 3, "Z");
+    for (OpcionesPlaca opciones : {OpcionesPlaca{}, OpcionesPlaca{.silenciosa = true}}) {
+        SCOPED_TRACE(opciones.silenciosa ? "silenciosa" : "normal");
+        Placa placa(opciones);
+        PuertoPlaca puerto(placa);
+        crear(puerto);
+        bitacora.sucesos.clear();
+        EXPECT_EQ(agregado([&] { form->editado_Click(); }),
+                  "10:11:12... Coneccion Exitosa .........Gravando del Editor!!!\r\n"
+                  "10:11:12... Grabacion Exitosa!!!... 0 Bytes Grabados\r\n");
+        EXPECT_EQ(puerto.enviados(), std::string("cw\x10\x00\x00\x00\xFF\xFF\xFFZ", 10) + std::string(12, '\xFF'));
+        EXPECT_EQ(StatusBar1.textos[1], "G R A V A C I O N    E X I T O S A ...!!!");
+        EXPECT_EQ(ProgressBar1.tope, 16);
+        EXPECT_EQ(ProgressBar1.actual, 16);
+        EXPECT_EQ(aspectos(), (std::vector<std::string>{"editado tridimensional", "editado plana"}));
+        EXPECT_FALSE(puerto.abierto());
+        EXPECT_TRUE(avisos.mostrados.empty());
+    }
+}
+
 TEST_F(Operaciones, WithoutABoardEveryOperationStopsAtTheCheckAndChangesNothing)
 {
     struct Orden {
@@ -173,7 +197,8 @@ TEST_F(Operaciones, WithoutABoardEveryOperationStopsAtTheCheckAndChangesNothing)
     };
     const std::vector<Orden> ordenes{{&Form1::leer_Click, "leer", palabras::leer.falla},
                                      {&Form1::grabar_Click, "grabar", palabras::grabar.falla},
-                                     {&Form1::verificar_Click, "verificar", palabras::verificar.falla}};
+                                     {&Form1::verificar_Click, "verificar", palabras::verificar.falla},
+                                     {&Form1::editado_Click, "editado", palabras::editado.falla}};
     for (const Orden& orden : ordenes) {
         for (bool abrible : {true, false}) {
             SCOPED_TRACE(orden.boton + (abrible ? " muda" : " sin puerto"));

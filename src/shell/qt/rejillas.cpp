@@ -36,12 +36,12 @@ Rejillas::Rejillas(Cuadriculas& cuadriculas, QWidget* ventana)
 {
     const QFont courier = letra({"Courier New", "Liberation Mono", "DejaVu Sans Mono"});
     const QFont terminal = letra({"Terminal", "DejaVu Sans Mono", "Liberation Mono"});
-    fgdir_ = rejilla(cuadriculas.fgdir, VistaRejilla::Letras::texto, courier, "fgdir", rectangulo(120, 1800, 900, 3735),
+    fgdir_ = rejilla(cuadriculas.fgdir, VistaRejilla::Letras::texto, courier, "fgdir", rectangulo(lugarfgdir),
                      ventana);
     fghex_ = rejilla(cuadriculas.fghex, VistaRejilla::Letras::texto, courier, "fghex",
-                     rectangulo(645, 1800, 5205, 3735), ventana);
+                     rectangulo(lugarfghex), ventana);
     fgascii_ = rejilla(cuadriculas.fgascii, VistaRejilla::Letras::glifos, terminal, "fgascii",
-                       rectangulo(5475, 1800, 3420, 3735), ventana);
+                       rectangulo(lugarfgascii), ventana);
     QWidget::setTabOrder(fgascii_, fghex_);
     QWidget::setTabOrder(fghex_, fgdir_);
 }

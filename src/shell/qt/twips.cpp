@@ -32,6 +32,11 @@ QRect rectangulo(int izquierda, int arriba, int ancho, int alto)
     return {pixeles(izquierda), pixeles(arriba), pixeles(ancho), pixeles(alto)};
 }
 
+QRect rectangulo(Lugar lugar)
+{
+    return rectangulo(lugar.izquierda, lugar.arriba, lugar.ancho, lugar.alto);
+}
+
 QColor acolorqt(Color color)
 {
     return QColor(color.rojo, color.verde, color.azul);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/cuadriculas.h"
 #include "plataforma/color.h"
 
 #include <QColor>
@@ -12,6 +13,7 @@ int pixeles(int twips);
 // The other way: the twips that a length on the screen stands for.
 int twipsde(int pixeles);
 QRect rectangulo(int izquierda, int arriba, int ancho, int alto);
+QRect rectangulo(Lugar lugar);
 
 QColor acolorqt(Color color);
 

@@ -10,6 +10,7 @@
 #include "shell/qt/puertoserie.h"
 #include "shell/qt/rejillas.h"
 #include "shell/qt/twips.h"
+#include "shell/qt/vistacaja.h"
 #include "shell/qt/vistarejilla.h"
 
 #include <QApplication>
@@ -69,6 +70,7 @@ VentanaForm1::VentanaForm1(Dependencias dependencias, QWidget* padre)
     skin_.registrar(Formulario::Form1, this);
     logica_.emplace(controles(), Servicios{*dependencias_.puerto, *dependencias_.reloj, *dependencias_.avisos, skin_,
                                            *dependencias_.CommonDialog1});
+    conectareditores();
     conectarbotones();
     dimensionar();
 }
@@ -86,6 +88,7 @@ void VentanaForm1::crearcontroles(QWidget* lienzo)
     txtinforme_->setGeometry(rectangulo(120, 960, 8775, 735));
     txtinforme_->setAccessibleName(QStringLiteral("txtinforme"));
     rejillas_ = std::make_unique<Rejillas>(cuadriculas_, lienzo);
+    crearcajas(lienzo);
     ProgressBar1_ = new Barra(lienzo);
     ProgressBar1_->setGeometry(rectangulo(120, 5640, 8655, 255));
     ProgressBar1_->setToolTip(QStringLiteral("Barra que muestra el progreso del proceso que se haya elegido"));
@@ -104,6 +107,39 @@ void VentanaForm1::crearbotones(QWidget* lienzo)
     }
 }
 
+// The overlay boxes lie above the three grids and are not in the tab order.
+void VentanaForm1::crearcajas(QWidget* lienzo)
+{
+    QFont courier;
+    courier.setFamilies({"Courier New", "Liberation Mono", "DejaVu Sans Mono"});
+    courier.setPointSize(9);
+    courier.setBold(true);
+    HEXcelda_ = new VistaCaja(VistaCaja::Letras::texto, lienzo);
+    HEXcelda_->setObjectName(QStringLiteral("HEXcelda"));
+    HEXcelda_->setAccessibleName(QStringLiteral("HEXcelda"));
+    HEXcelda_->setFont(courier);
+    QFont terminal;
+    terminal.setFamilies({"Terminal", "DejaVu Sans Mono", "Liberation Mono"});
+    terminal.setPointSize(12);
+    txtcelda_ = new VistaCaja(VistaCaja::Letras::glifos, lienzo);
+    txtcelda_->setObjectName(QStringLiteral("txtcelda"));
+    txtcelda_->setAccessibleName(QStringLiteral("txtcelda"));
+    txtcelda_->setFont(terminal);
+}
+
+void VentanaForm1::conectareditores()
+{
+    Edicion& edicion = logica_->edicion();
+    editorhex_.emplace(cuadriculas_, *HEXcelda_, edicion, *dependencias_.timbre);
+    editorascii_.emplace(cuadriculas_, *txtcelda_, edicion);
+    cuadriculas_.fghex.EnterCell = [this] { editorhex_->fghex_EnterCell(); };
+    cuadriculas_.fgascii.EnterCell = [this] { editorascii_->fgascii_EnterCell(); };
+    HEXcelda_->KeyPress = [this](int& tecla) { editorhex_->HEXcelda_KeyPress(tecla); };
+    HEXcelda_->Change = [this] { editorhex_->HEXcelda_Change(); };
+    txtcelda_->KeyPress = [this](int& tecla) { editorascii_->txtcelda_KeyPress(tecla); };
+    txtcelda_->Change = [this] { editorascii_->txtcelda_Change(); };
+}
+
 void VentanaForm1::conectarbotones()
 {
     connect(botones_[0], &BotonImagen::Click, this, [this] { logica_->abrir_Click(); });
@@ -111,8 +147,10 @@ void VentanaForm1::conectarbotones()
     connect(botones_[2], &BotonImagen::Click, this, [this] { bloquearentrada([this] { logica_->leer_Click(); }); });
     connect(botones_[3], &BotonImagen::Click, this, [this] { logica_->borrar_Click(); });
     connect(botones_[4], &BotonImagen::Click, this, [this] { bloquearentrada([this] { logica_->grabar_Click(); }); });
+    connect(botones_[6], &BotonImagen::Click, this, [this] { logica_->edit_Click(); });
     connect(botones_[5], &BotonImagen::Click, this,
             [this] { bloquearentrada([this] { logica_->verificar_Click(); }); });
+    connect(botones_[7], &BotonImagen::Click, this, [this] { bloquearentrada([this] { logica_->editado_Click(); }); });
 }
 
 // A menu entry does what its button does, the button's look included. Salir ends the run
@@ -127,6 +165,12 @@ void VentanaForm1::crearmenu()
     menuarchivo->addSeparator()->setObjectName(QStringLiteral("lineaseparadora1"));
     connect(opcion(menuarchivo, "Opcionsalir", "&Salir", "Ctrl+X"), &QAction::triggered, qApp,
             [] { QCoreApplication::exit(0); });
+
+    QMenu* menueditor = menuBar()->addMenu(QStringLiteral("&Edicion"));
+    connect(opcion(menueditor, "opcioneditar", "&Editar", "Ctrl+E"), &QAction::triggered, this,
+            [this] { logica_->edit_Click(); });
+    connect(opcion(menueditor, "opcionlimpiar", "&Limpiar", "Ctrl+L"), &QAction::triggered, this,
+            [this] { logica_->opcionlimpiar_Click(); });
 
     // Seleccionar and Informacion have no work behind them.
     QMenu* menudispositivo = menuBar()->addMenu(QStringLiteral("&Dispositivo"));

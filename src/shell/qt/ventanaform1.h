@@ -1,10 +1,14 @@
 #pragma once
 
 #include "editor/cuadriculas.h"
+#include "editor/editorascii.h"
+#include "editor/editorhex.h"
 #include "link/puerto.h"
 #include "plataforma/avisos.h"
 #include "plataforma/dialogo.h"
 #include "plataforma/reloj.h"
+#include "plataforma/timbre.h"
+#include "shell/qt/timbresistema.h"
 #include "shell/form1.h"
 #include "shell/qt/motorskin.h"
 
@@ -20,6 +24,7 @@ class BarraEstado;
 class BotonImagen;
 class CajaInforme;
 class Rejillas;
+class VistaCaja;
 
 // What the window talks to outside itself. Tests put recording fakes in their place.
 struct Dependencias {
@@ -27,6 +32,7 @@ struct Dependencias {
     std::unique_ptr<Avisos> avisos;
     std::unique_ptr<Reloj> reloj;
     std::unique_ptr<Dialogo> CommonDialog1;
+    std::unique_ptr<Timbre> timbre = std::make_unique<TimbreSistema>();
 };
 
 // The serial port of the system, message boxes and file dialogs on the screen, and the
@@ -46,6 +52,8 @@ public:
     BotonImagen& boton(int indice) const { return *botones_.at(static_cast<std::size_t>(indice)); }
     Rejillas& rejillas() const { return *rejillas_; }
     Cuadriculas& cuadriculas() { return cuadriculas_; }
+    VistaCaja& HEXcelda() const { return *HEXcelda_; }
+    VistaCaja& txtcelda() const { return *txtcelda_; }
     Form1& logica() { return *logica_; }
 
 protected:
@@ -56,6 +64,8 @@ private:
     void crearbotones(QWidget* lienzo);
     void crearmenu();
     void conectarbotones();
+    void crearcajas(QWidget* lienzo);
+    void conectareditores();
     void dimensionar();
     Controles controles();
 
@@ -67,7 +77,11 @@ private:
     Barra* ProgressBar1_ = nullptr;
     std::array<BotonImagen*, 8> botones_{};
     std::unique_ptr<Rejillas> rejillas_;
+    VistaCaja* HEXcelda_ = nullptr;
+    VistaCaja* txtcelda_ = nullptr;
     std::optional<Form1> logica_;
+    std::optional<EditorHex> editorhex_;
+    std::optional<EditorAscii> editorascii_;
     bool cargada_ = false;
 };
 

@@ -1,0 +1,133 @@
+#include "shell/qt/vistacaja.h"
+
+#include "editor/glifos.h"
+#include "shell/qt/twips.h"
+
+#include <QKeyEvent>
+
+namespace eeprog {
+
+namespace {
+
+constexpr int enter = 13;
+constexpr int escape = 27;
+constexpr int retroceso = 8;
+
+} // namespace
+
+VistaCaja::VistaCaja(Letras letras, QWidget* padre) : QLineEdit(padre), letras_(letras)
+{
+    setFocusPolicy(Qt::ClickFocus);
+    setFrame(false);
+    setAutoFillBackground(true);
+    hide();
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (Change)
+            Change();
+    });
+}
+
+// Enter, Escape and Backspace come as control characters, which are their codes as they are.
+int VistaCaja::codigo(QChar letra) const
+{
+    if (letras_ == Letras::glifos && letra.unicode() >= 32)
+        return codigode(letra.unicode());
+    return letra.unicode();
+}
+
+QString VistaCaja::mostrar(const std::string& bytes) const
+{
+    QString texto;
+    for (char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        const char32_t letra = letras_ == Letras::glifos ? glifo(byte) : byte;
+        texto += QString::fromUcs4(&letra, 1);
+    }
+    return texto;
+}
+
+// What the box shows of a code 0 or 255 reads back as a blank: the box only ever hands on
+// the character typed, never what it shows of a cell.
+std::string VistaCaja::Text() const
+{
+    std::string bytes;
+    for (QChar letra : text()) {
+        const int c = codigo(letra);
+        bytes += static_cast<char>(c < 0 ? '?' : c);
+    }
+    return bytes;
+}
+
+void VistaCaja::Text(const std::string& texto)
+{
+    const QString nuevo = mostrar(texto);
+    if (nuevo != text())
+        setText(nuevo);
+    setCursorPosition(0);
+    deselect();
+}
+
+void VistaCaja::colocar(int izquierda, int arriba, int ancho, int alto)
+{
+    setGeometry(rectangulo(izquierda, arriba, ancho, alto));
+    raise();
+}
+
+void VistaCaja::BackColor(Color color)
+{
+    QPalette paleta = palette();
+    paleta.setColor(QPalette::Base, acolorqt(color));
+    paleta.setColor(QPalette::Window, acolorqt(color));
+    setPalette(paleta);
+}
+
+void VistaCaja::Visible(bool visible)
+{
+    setVisible(visible);
+}
+
+void VistaCaja::SetFocus()
+{
+    setFocus(Qt::OtherFocusReason);
+}
+
+// The menu's Ctrl shortcuts win over the box's own (Ctrl+A selects all in a plain box).
+bool VistaCaja::event(QEvent* evento)
+{
+    if (evento->type() == QEvent::ShortcutOverride &&
+        (static_cast<QKeyEvent*>(evento)->modifiers() & Qt::ControlModifier)) {
+        evento->ignore();
+        return false;
+    }
+    return QLineEdit::event(evento);
+}
+
+// Enter, Escape and Backspace raise KeyPress too, as keys that make a character; then they
+// do what they do in any box: with the caret at the start, nothing.
+void VistaCaja::keyPressEvent(QKeyEvent* evento)
+{
+    const QString texto = evento->text();
+    if (texto.size() != 1 || (evento->modifiers() & Qt::ControlModifier)) {
+        QLineEdit::keyPressEvent(evento);
+        return;
+    }
+    int tecla = codigo(texto.front());
+    if (tecla < 0) {
+        evento->accept();
+        return;
+    }
+    if (KeyPress)
+        KeyPress(tecla);
+    if (tecla == 0) {
+        evento->accept();
+        return;
+    }
+    if (tecla == enter || tecla == escape || tecla == retroceso) {
+        QLineEdit::keyPressEvent(evento);
+        return;
+    }
+    insert(mostrar(std::string(1, static_cast<char>(tecla))));
+    evento->accept();
+}
+
+} // namespace eeprog
