@@ -115,14 +115,20 @@ void Rejilla::TextMatrix(int fila, int columna, std::string_view texto)
         avisar(Cambio::celdas);
 }
 
+// A run of typing moves the current cell by these writes; the cell comes into sight, so
+// that the editor's box, put over it, stays on the grid.
 void Rejilla::Row(int fila)
 {
-    ponercelda(filavalida(fila), columna_);
+    fila = filavalida(fila);
+    mostrarcelda(fila, columna_);
+    ponercelda(fila, columna_);
 }
 
 void Rejilla::Col(int columna)
 {
-    ponercelda(fila_, columnavalida(columna));
+    columna = columnavalida(columna);
+    mostrarcelda(fila_, columna);
+    ponercelda(fila_, columna);
 }
 
 void Rejilla::TopRow(int fila)

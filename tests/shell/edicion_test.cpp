@@ -240,5 +240,43 @@ TEST_F(EdicionTest, WithEditModeOffAClickBringsNoBox)
     EXPECT_TRUE(ventana->HEXcelda().isVisible());
 }
 
+TEST_F(EdicionTest, EntryPastTheLastRowInSightScrollsTheThreeGridsAndKeepsTheBoxOnTheGrid)
+{
+    editar();
+    const int ultima = c().fghex.filasvisibles() - 1;
+    clic(c().fghex, ultima, 15);
+    teclas(ventana->HEXcelda(), "11");
+    EXPECT_EQ(c().fghex.Row(), ultima + 1);
+    for (const Rejilla* r : {&c().fgdir, &c().fghex, &c().fgascii})
+        EXPECT_EQ(r->TopRow(), 1);
+    sobre(ventana->HEXcelda(), c().fghex);
+}
+
+// Bytes edited in both grids reach the chip with the rest of rows 0 to the highest edited
+// one as the grids show them, and a read brings them back.
+TEST_F(EdicionTest, EditadoWritesTheEditedRowsToTheChipAndAReadShowsThemAgain)
+{
+    for (unsigned char& byte : placa.chip())
+        byte = 0x11;
+    editar();
+    clic(c().fghex, 0, 2);
+    teclas(ventana->HEXcelda(), "C0DE");
+    clic(c().fgascii, 2, 14);
+    teclas(ventana->txtcelda(), "Si");
+    c().fgascii.TextMatrix(1, 0, std::string(1, '\0'));
+    QTest::mouseClick(&ventana->boton(7), Qt::LeftButton);
+    std::array<unsigned char, 48> esperado{};
+    esperado.fill(0xFF);
+    esperado[2] = 0xC0, esperado[3] = 0xDE, esperado[16] = 0, esperado[46] = 'S', esperado[47] = 'i';
+    EXPECT_TRUE(std::equal(esperado.begin(), esperado.end(), placa.chip().begin()));
+    EXPECT_EQ(placa.chip()[48], 0x11);
+    EXPECT_TRUE(ventana->txtinforme().texto().ends_with("10:11:12... Grabacion Exitosa!!!... 48 Bytes Grabados\r\n"));
+    QTest::keyClick(ventana.get(), Qt::Key_L, Qt::ControlModifier);
+    QTest::mouseClick(&ventana->boton(2), Qt::LeftButton);
+    EXPECT_EQ(c().fghex.TextMatrix(0, 2) + c().fghex.TextMatrix(0, 3), "C0DE");
+    EXPECT_EQ(c().fgascii.TextMatrix(2, 14), "S");
+    EXPECT_EQ(c().fghex.TextMatrix(3, 0), "11");
+}
+
 } // namespace
 } // namespace eeprog
