@@ -147,9 +147,9 @@ void VentanaForm1::conectarbotones()
     connect(botones_[2], &BotonImagen::Click, this, [this] { bloquearentrada([this] { logica_->leer_Click(); }); });
     connect(botones_[3], &BotonImagen::Click, this, [this] { logica_->borrar_Click(); });
     connect(botones_[4], &BotonImagen::Click, this, [this] { bloquearentrada([this] { logica_->grabar_Click(); }); });
-    connect(botones_[6], &BotonImagen::Click, this, [this] { logica_->edit_Click(); });
     connect(botones_[5], &BotonImagen::Click, this,
             [this] { bloquearentrada([this] { logica_->verificar_Click(); }); });
+    connect(botones_[6], &BotonImagen::Click, this, [this] { logica_->edit_Click(); });
     connect(botones_[7], &BotonImagen::Click, this, [this] { bloquearentrada([this] { logica_->editado_Click(); }); });
 }
 
