@@ -1,22 +1,12 @@
 #include "shell/qt/rejillas.h"
 
+#include "shell/qt/letras.h"
 #include "shell/qt/twips.h"
 #include "shell/qt/vistarejilla.h"
 
 namespace eeprog {
 
 namespace {
-
-// Courier New is served by Liberation Mono where it is missing. Terminal, a Windows
-// bitmap font, by DejaVu Sans Mono, which has a glyph for each of the 256 codes.
-QFont letra(QStringList familias)
-{
-    QFont fuente;
-    fuente.setFamilies(familias);
-    fuente.setStyleHint(QFont::Monospace);
-    fuente.setPointSize(9);
-    return fuente;
-}
 
 VistaRejilla* rejilla(Rejilla& modelo, VistaRejilla::Letras letras, const QFont& fuente, const char* nombre,
                       QRect lugar, QWidget* ventana)
@@ -34,14 +24,12 @@ VistaRejilla* rejilla(Rejilla& modelo, VistaRejilla::Letras letras, const QFont&
 
 Rejillas::Rejillas(Cuadriculas& cuadriculas, QWidget* ventana)
 {
-    const QFont courier = letra({"Courier New", "Liberation Mono", "DejaVu Sans Mono"});
-    const QFont terminal = letra({"Terminal", "DejaVu Sans Mono", "Liberation Mono"});
-    fgdir_ = rejilla(cuadriculas.fgdir, VistaRejilla::Letras::texto, courier, "fgdir", rectangulo(lugarfgdir),
-                     ventana);
-    fghex_ = rejilla(cuadriculas.fghex, VistaRejilla::Letras::texto, courier, "fghex",
-                     rectangulo(lugarfghex), ventana);
-    fgascii_ = rejilla(cuadriculas.fgascii, VistaRejilla::Letras::glifos, terminal, "fgascii",
-                       rectangulo(lugarfgascii), ventana);
+    const QFont texto = courier(9);
+    const QFont glifos = terminal(9);
+    fgdir_ = rejilla(cuadriculas.fgdir, VistaRejilla::Letras::texto, texto, "fgdir", rectangulo(lugarfgdir), ventana);
+    fghex_ = rejilla(cuadriculas.fghex, VistaRejilla::Letras::texto, texto, "fghex", rectangulo(lugarfghex), ventana);
+    fgascii_ = rejilla(cuadriculas.fgascii, VistaRejilla::Letras::glifos, glifos, "fgascii", rectangulo(lugarfgascii),
+                       ventana);
     QWidget::setTabOrder(fgascii_, fghex_);
     QWidget::setTabOrder(fghex_, fgdir_);
 }

@@ -7,6 +7,7 @@
 #include "shell/qt/cajainforme.h"
 #include "shell/qt/cajamensajes.h"
 #include "shell/qt/dialogocomun.h"
+#include "shell/qt/letras.h"
 #include "shell/qt/puertoserie.h"
 #include "shell/qt/rejillas.h"
 #include "shell/qt/twips.h"
@@ -49,6 +50,15 @@ QAction* opcion(QMenu* menu, const char* nombre, const char* texto, const char* 
     accion->setObjectName(QString::fromUtf8(nombre));
     accion->setShortcut(QKeySequence(QString::fromUtf8(atajo)));
     return accion;
+}
+
+VistaCaja* caja(VistaCaja::Letras letras, const QFont& fuente, const char* nombre, QWidget* lienzo)
+{
+    auto* nueva = new VistaCaja(letras, lienzo);
+    nueva->setObjectName(QString::fromUtf8(nombre));
+    nueva->setAccessibleName(QString::fromUtf8(nombre));
+    nueva->setFont(fuente);
+    return nueva;
 }
 
 } // namespace
@@ -110,21 +120,8 @@ void VentanaForm1::crearbotones(QWidget* lienzo)
 // The overlay boxes lie above the three grids and are not in the tab order.
 void VentanaForm1::crearcajas(QWidget* lienzo)
 {
-    QFont courier;
-    courier.setFamilies({"Courier New", "Liberation Mono", "DejaVu Sans Mono"});
-    courier.setPointSize(9);
-    courier.setBold(true);
-    HEXcelda_ = new VistaCaja(VistaCaja::Letras::texto, lienzo);
-    HEXcelda_->setObjectName(QStringLiteral("HEXcelda"));
-    HEXcelda_->setAccessibleName(QStringLiteral("HEXcelda"));
-    HEXcelda_->setFont(courier);
-    QFont terminal;
-    terminal.setFamilies({"Terminal", "DejaVu Sans Mono", "Liberation Mono"});
-    terminal.setPointSize(12);
-    txtcelda_ = new VistaCaja(VistaCaja::Letras::glifos, lienzo);
-    txtcelda_->setObjectName(QStringLiteral("txtcelda"));
-    txtcelda_->setAccessibleName(QStringLiteral("txtcelda"));
-    txtcelda_->setFont(terminal);
+    HEXcelda_ = caja(VistaCaja::Letras::texto, courier(9, true), "HEXcelda", lienzo);
+    txtcelda_ = caja(VistaCaja::Letras::glifos, terminal(12), "txtcelda", lienzo);
 }
 
 void VentanaForm1::conectareditores()
