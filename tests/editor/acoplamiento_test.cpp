@@ -69,32 +69,24 @@ TEST_F(AcoplamientoTest, AClickInFghexShowsAddressHexAndCharacterOfTheCell)
     EXPECT_EQ(paneles.textos[3], "Dir= FFFF");
 }
 
-TEST_F(AcoplamientoTest, ADragInFghexTakesItsOwnTextFromWhereItBeganAndTheRestFromWhereItEnded)
+// Each grid takes its own text from its current cell, the other grid's from the far end.
+// fghex keeps its drag selection; fgascii makes the cell under the pointer current.
+TEST_F(AcoplamientoTest, ADragShowsTheFarEndAndOnlyFgasciiMovesItsCurrentCellThere)
 {
     ponerbyte(c, 1, 1, 0x41);
     ponerbyte(c, 2, 3, 0x42);
-    c.fghex.pulsar(1, 1);
-    c.fghex.arrastrar(2, 3);
-    c.fghex.soltar(2, 3);
-    EXPECT_EQ(paneles.textos[3], "Dir= 23");
-    EXPECT_EQ(paneles.textos[4], "Hex= 41");
-    EXPECT_EQ(paneles.textos[5], "Ascii= B");
-    EXPECT_EQ(c.fghex.Row(), 1) << "fghex keeps its selection";
+    const std::pair<Rejilla*, const char*> arrastres[] = {{&c.fghex, "Dir= 23 Hex= 41 Ascii= B"},
+                                                          {&c.fgascii, "Dir= 23 Hex= 42 Ascii= A"}};
+    for (const auto& [r, textos] : arrastres) {
+        r->pulsar(1, 1);
+        r->arrastrar(2, 3);
+        r->soltar(2, 3);
+        EXPECT_EQ(paneles.textos[3] + " " + paneles.textos[4] + " " + paneles.textos[5], textos);
+    }
+    EXPECT_EQ(c.fghex.Row(), 1);
     EXPECT_EQ(c.fghex.RowSel(), 2);
-}
-
-TEST_F(AcoplamientoTest, ADragInFgasciiEndsWithTheCellUnderThePointerCurrent)
-{
-    ponerbyte(c, 1, 1, 0x41);
-    ponerbyte(c, 2, 3, 0x42);
-    c.fgascii.pulsar(1, 1);
-    c.fgascii.arrastrar(2, 3);
-    c.fgascii.soltar(2, 3);
-    EXPECT_EQ(paneles.textos[4], "Hex= 42");
-    EXPECT_EQ(paneles.textos[5], "Ascii= A");
     EXPECT_EQ(c.fgascii.Row(), 2);
     EXPECT_EQ(c.fgascii.Col(), 3);
-    EXPECT_EQ(c.fgascii.RowSel(), 2);
     EXPECT_EQ(entradasascii, 3) << "at the press, then at the writes of Row and of Col";
 }
 

@@ -51,21 +51,6 @@ TEST_F(RejillaTest, WritingTheCurrentCellStillCollapsesADragSelection)
     EXPECT_EQ(sucesos, (Sucesos{"EnterCell 2,1"}));
 }
 
-TEST_F(RejillaTest, ADragMovesTheFarEndAndLeavesTheCurrentCellWhereItBegan)
-{
-    rejilla.pulsar(3, 1);
-    rejilla.arrastrar(4, 2);
-    rejilla.arrastrar(7, 3);
-    rejilla.soltar(7, 3);
-    EXPECT_EQ(rejilla.Row(), 3);
-    EXPECT_EQ(rejilla.Col(), 1);
-    EXPECT_EQ(rejilla.RowSel(), 7);
-    EXPECT_EQ(rejilla.ColSel(), 3);
-    EXPECT_EQ(rejilla.MouseRow(), 7);
-    EXPECT_EQ(rejilla.MouseCol(), 3);
-    EXPECT_EQ(sucesos, (Sucesos{"EnterCell 3,1", "MouseUp"}));
-}
-
 TEST_F(RejillaTest, TopRowRaisesScrollOnlyOnAChangeAndStopsWhereTheLastRowIsInSight)
 {
     rejilla.TopRow(0);

@@ -53,17 +53,6 @@ TEST_F(VistaRejillaTest, AClickMakesTheCellUnderThePointerCurrent)
     EXPECT_EQ(sueltas, 2);
 }
 
-TEST_F(VistaRejillaTest, ADragMovesOnlyTheFarEndOfTheSelection)
-{
-    QTest::mousePress(vista.viewport(), Qt::LeftButton, {}, centro(1, 1));
-    QTest::mouseMove(vista.viewport(), centro(4, 9));
-    QTest::mouseRelease(vista.viewport(), Qt::LeftButton, {}, centro(4, 9));
-    EXPECT_EQ(c.fghex.Row(), 1);
-    EXPECT_EQ(c.fghex.Col(), 1);
-    EXPECT_EQ(c.fghex.RowSel(), 4);
-    EXPECT_EQ(c.fghex.ColSel(), 9);
-}
-
 TEST_F(VistaRejillaTest, TheScrollBarAndTheGridsTopRowMoveTogether)
 {
     QScrollBar* barra = vista.verticalScrollBar();
@@ -77,20 +66,6 @@ TEST_F(VistaRejillaTest, TheScrollBarAndTheGridsTopRowMoveTogether)
     EXPECT_EQ(desplazamientos, 2) << "the bar following the grid raises nothing more";
     QTest::mouseClick(vista.viewport(), Qt::LeftButton, {}, centro(302, 0));
     EXPECT_EQ(c.fghex.Row(), 302);
-}
-
-TEST_F(VistaRejillaTest, ArrowKeysMoveTheCellAndScrollWhenItLeavesTheRowsInSight)
-{
-    vista.setFocus();
-    const int visibles = c.fghex.filasvisibles();
-    for (int i = 0; i < visibles; ++i)
-        QTest::keyClick(&vista, Qt::Key_Down);
-    EXPECT_EQ(c.fghex.Row(), visibles);
-    EXPECT_EQ(c.fghex.TopRow(), 1);
-    EXPECT_EQ(vista.verticalScrollBar()->value(), 1);
-    QTest::keyClick(&vista, Qt::Key_End, Qt::ControlModifier);
-    EXPECT_EQ(c.fghex.Row(), 4095);
-    EXPECT_EQ(c.fghex.Col(), 15);
 }
 
 TEST_F(VistaRejillaTest, CellsAreDrawnWhereTheGridPutsThem)
