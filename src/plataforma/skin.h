@@ -2,6 +2,8 @@
 
 #include "plataforma/color.h"
 
+#include <string>
+
 namespace eeprog {
 
 // The windows that wear a skin.
@@ -12,6 +14,9 @@ enum class Formulario { Form1, frmAbout };
 class Skin {
 public:
     virtual ~Skin() = default;
+    // The skin of the file becomes the current one. The program looks at no result: a
+    // file that is missing or cannot be read leaves the current skin as it was.
+    virtual void cargar(const std::string& ruta) = 0;
     virtual void aplicar(Formulario formulario) = 0;
     // Asked anew at each use: the program keeps no copy of it.
     virtual Color color() const = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plataforma/skin.h"
+#include "shell/aspecto.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -9,18 +10,25 @@
 
 namespace eeprog {
 
-// The skin engine: it dresses the windows in the current skin's colours.
+// The skin engine: it holds the current skin and dresses the windows in its palette,
+// their menus included. The title bars belong to the desktop and keep its look.
 class MotorSkin : public Skin {
 public:
     // The windows it may be asked to dress.
     void registrar(Formulario formulario, QWidget* ventana);
 
+    void cargar(const std::string& ruta) override;
     void aplicar(Formulario formulario) override;
     Color color() const override;
 
+    const Aspecto& aspecto() const { return aspecto_; }
+
 private:
-    Color fondo_ = colorinicial;
+    Aspecto aspecto_ = aspectoinicial();
     std::map<Formulario, QPointer<QWidget>> ventanas_;
 };
+
+// The palette of the windows of a skin.
+QPalette paletade(const Aspecto& aspecto);
 
 } // namespace eeprog
