@@ -9,6 +9,7 @@
 #include "records/guardado.h"
 #include "records/mostrarvector.h"
 #include "shell/aplicarskin.h"
+#include "shell/menuskin.h"
 
 namespace eeprog {
 
@@ -163,6 +164,29 @@ void Form1::opcionlimpiar_Click()
             c.fghex.TextMatrix(fila, columna, "FF");
             c.fgascii.TextMatrix(fila, columna, "");
         }
+}
+
+void Form1::MNUCamb_Click(int index)
+{
+    const EntradaSkin& entrada = skinsdelmenu.at(static_cast<std::size_t>(index));
+    servicios_.skin.cargar((servicios_.directorio / entrada.archivo).string());
+    aplicarskin(servicios_.skin, Formulario::Form1, edicion_);
+    actualizar();
+}
+
+void Form1::opcionel_circuito_Click()
+{
+    abrirdocumento("circuito/Eeprog.bmp");
+}
+
+void Form1::opcionprograma_Click()
+{
+    abrirdocumento("circuito/at28c64b.hex");
+}
+
+void Form1::abrirdocumento(const char* archivo)
+{
+    servicios_.abridor.abrir((servicios_.directorio / archivo).string());
 }
 
 void Form1::borrar_Click()

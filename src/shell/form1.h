@@ -7,6 +7,7 @@
 #include "link/conexion.h"
 #include "link/enlace.h"
 #include "link/puerto.h"
+#include "plataforma/abridor.h"
 #include "plataforma/avisos.h"
 #include "plataforma/barraprogreso.h"
 #include "plataforma/boton.h"
@@ -21,6 +22,7 @@
 #include "records/registros.h"
 
 #include <array>
+#include <filesystem>
 #include <string>
 
 namespace eeprog {
@@ -60,6 +62,10 @@ struct Servicios {
     Avisos& avisos;
     Skin& skin;
     Dialogo& CommonDialog1;
+    Abridor& abridor;
+    // The program's own directory: skins and circuit documents lie beside the program,
+    // wherever the file dialogs have taken the current directory.
+    std::filesystem::path directorio = {};
 };
 
 // The logic of the main window: what each of its events does, and the data it owns.
@@ -95,6 +101,13 @@ public:
     // Every cell of fghex shows an erased byte and every cell of fgascii holds nothing.
     void opcionlimpiar_Click();
 
+    // Loads the skin of the menu entry and dresses the window in it. Edit mode ends.
+    void MNUCamb_Click(int index);
+    // The circuit's picture and the board's program, opened by the desktop. Nothing here
+    // reads them; a missing file shows nothing.
+    void opcionel_circuito_Click();
+    void opcionprograma_Click();
+
     const Edicion& edicion() const { return edicion_; }
     // The cell editors work on it too.
     Edicion& edicion() { return edicion_; }
@@ -104,6 +117,7 @@ public:
 
 private:
     void comprobarplaca();
+    void abrirdocumento(const char* archivo);
     void conectareventos();
     Marco marco();
     PantallaOperacion pantallaoperacion();

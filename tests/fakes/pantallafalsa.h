@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bitacora.h"
+#include "plataforma/abridor.h"
 #include "plataforma/avisos.h"
 #include "plataforma/barraprogreso.h"
 #include "plataforma/boton.h"
@@ -102,13 +103,35 @@ public:
     explicit SkinFalso(Bitacora* bitacora = nullptr) : bitacora_(bitacora) {}
     Color actual = colorinicial;
     std::vector<Formulario> aplicados;
+    std::vector<std::string> cargados;
 
+    void cargar(const std::string& ruta) override
+    {
+        anotar(bitacora_, "skin cargar " + ruta);
+        cargados.push_back(ruta);
+    }
     void aplicar(Formulario formulario) override
     {
         anotar(bitacora_, "skin aplicar");
         aplicados.push_back(formulario);
     }
     Color color() const override { return actual; }
+
+private:
+    Bitacora* bitacora_;
+};
+
+// The desktop's opener: it keeps the paths it was asked to open.
+class AbridorFalso : public Abridor {
+public:
+    explicit AbridorFalso(Bitacora* bitacora = nullptr) : bitacora_(bitacora) {}
+    std::vector<std::string> abiertos;
+
+    void abrir(const std::string& ruta) override
+    {
+        anotar(bitacora_, "abrir " + ruta);
+        abiertos.push_back(ruta);
+    }
 
 private:
     Bitacora* bitacora_;

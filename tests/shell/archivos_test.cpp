@@ -71,13 +71,14 @@ protected:
     RelojFijo reloj;
     AvisosFalsos avisos;
     SkinFalso skin;
+    AbridorFalso abridor;
     PuertoGuion puerto;
     Form1 form{{txtinforme,
                 StatusBar1,
                 ProgressBar1,
                 {botones[0], botones[1], botones[2], botones[3], botones[4], botones[5], botones[6], botones[7]},
                 cuadriculas},
-               {puerto, reloj, avisos, skin, dialogo}};
+               {puerto, reloj, avisos, skin, dialogo, abridor}};
 };
 
 std::string ajustes(const DialogoFalso::Mostrado& m)

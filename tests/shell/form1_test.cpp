@@ -30,6 +30,7 @@ protected:
     RelojFijo reloj;
     AvisosFalsos avisos{&bitacora};
     SkinFalso skin{&bitacora};
+    AbridorFalso abridor{&bitacora};
 
     Controles controles()
     {
@@ -45,7 +46,7 @@ TEST_F(Form1Test, StartingWithTheBoardLogsThreeLinesEndingInConectado)
 {
     Placa placa;
     PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo});
+    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor});
     form.Form_Load();
     EXPECT_EQ(txtinforme.contenido, cabecera + "Programador..... C O N E C T A D O !!!!\r\n");
     EXPECT_EQ(puerto.enviados(), "c");
@@ -57,7 +58,7 @@ TEST_F(Form1Test, StartingWithoutABoardLogsNoExisteAndShowsNoBoxAndNoPanelText)
 {
     Placa placa({.muda = true});
     PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo});
+    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor});
     form.Form_Load();
     EXPECT_EQ(txtinforme.contenido, cabecera + "Programador..... NO EXISTE CONECCION\r\n");
     EXPECT_TRUE(avisos.mostrados.empty());
@@ -72,7 +73,7 @@ TEST_F(Form1Test, TheFirstLineReplacesWhateverTheLogHeld)
     txtinforme.contenido = "texto de antes";
     Placa placa;
     PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo});
+    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor});
     form.Form_Load();
     EXPECT_EQ(txtinforme.contenido.rfind(cabecera, 0), 0u);
 }
@@ -87,7 +88,7 @@ TEST_F(Form1Test, StartUpRunsItsStepsInOrder)
         if (c == Cambio::forma && cuadriculas.fgascii.Rows() == filasrejilla)
             bitacora.sucesos.push_back("fgascii formada");
     };
-    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo});
+    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor});
     form.Form_Load();
 
     const std::vector<std::string> pasos{"skin aplicar",
@@ -114,7 +115,7 @@ TEST_F(Form1Test, StartUpDressesTheWindowAndLeavesEveryCommandButEditadoEnabled)
     skin.actual = Color{10, 20, 30};
     Placa placa;
     PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo});
+    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor});
     form.Form_Load();
     EXPECT_EQ(skin.aplicados, std::vector<Formulario>{Formulario::Form1});
     for (const BotonFalso& boton : botones) {
@@ -130,6 +131,58 @@ TEST_F(Form1Test, StartUpDressesTheWindowAndLeavesEveryCommandButEditadoEnabled)
     EXPECT_TRUE(std::all_of(botones.begin(), botones.begin() + 7, [](const BotonFalso& b) { return b.habilitado; }));
     EXPECT_FALSE(form.edicion().edicionhabilitada);
     EXPECT_EQ(form.edicion().cuentadigitos, 0);
+}
+
+// The skin comes from beside the program, then dresses the window, then the colour goes to
+// the buttons, the log and the grids; edit mode and a pending digit end on the way.
+TEST_F(Form1Test, ASkinFromTheMenuIsLoadedAppliedAndSpreadInThatOrder)
+{
+    Placa placa;
+    PuertoPlaca puerto(placa);
+    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor, "/opt/eeprog"});
+    form.Form_Load();
+    form.edit_Click();
+    form.edicion().cuentadigitos = 1;
+    const std::string log = txtinforme.texto();
+    bitacora.sucesos.clear();
+    skin.actual = Color{10, 20, 30};
+
+    form.MNUCamb_Click(1);
+
+    ASSERT_GE(bitacora.sucesos.size(), 4U);
+    EXPECT_EQ(bitacora.sucesos[0], "skin cargar /opt/eeprog/skins/galaxy.skn");
+    EXPECT_EQ(bitacora.sucesos[1], "skin aplicar");
+    EXPECT_EQ(bitacora.sucesos[2], "abrir color 10,20,30");
+    EXPECT_FALSE(form.edicion().edicionhabilitada);
+    EXPECT_EQ(form.edicion().cuentadigitos, 0);
+    EXPECT_EQ(botones[6].apariencia, Apariencia::tridimensional);
+    EXPECT_TRUE(botones[7].habilitado);
+    EXPECT_EQ(txtinforme.fondo, (Color{10, 20, 30}));
+    EXPECT_EQ(cuadriculas.fghex.GridColor(), negro);
+    EXPECT_EQ(txtinforme.texto(), log);
+}
+
+// The documents are the desktop's to show: nothing of the program changes, and the port
+// stays shut.
+TEST_F(Form1Test, TheCircuitDocumentsAreHandedToTheDesktopFromBesideTheProgram)
+{
+    Placa placa;
+    PuertoPlaca puerto(placa);
+    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor, "/opt/eeprog"});
+    form.Form_Load();
+    bitacora.sucesos.clear();
+    const int aperturas = puerto.aperturas();
+
+    form.opcionel_circuito_Click();
+    form.opcionprograma_Click();
+    form.opcionel_circuito_Click();
+
+    EXPECT_EQ(abridor.abiertos,
+              (std::vector<std::string>{"/opt/eeprog/circuito/Eeprog.bmp", "/opt/eeprog/circuito/at28c64b.hex",
+                                        "/opt/eeprog/circuito/Eeprog.bmp"}));
+    EXPECT_EQ(bitacora.sucesos.size(), 3U); // the three openings and nothing else
+    EXPECT_EQ(puerto.aperturas(), aperturas);
+    EXPECT_EQ(form.registros().totalvector, 0);
 }
 
 } // namespace

@@ -65,7 +65,7 @@ protected:
                       ProgressBar1,
                       {botones[0], botones[1], botones[2], botones[3], botones[4], botones[5], botones[6], botones[7]},
                       cuadriculas},
-            Servicios{puerto, reloj, avisos, skin, dialogo});
+            Servicios{puerto, reloj, avisos, skin, dialogo, abridor});
     }
     void abrir(const std::string& texto)
     {
@@ -110,6 +110,7 @@ protected:
     RelojFijo reloj;
     AvisosFalsos avisos;
     SkinFalso skin;
+    AbridorFalso abridor;
     std::optional<Form1> form;
 };
 
