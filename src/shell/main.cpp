@@ -1,5 +1,5 @@
 #include "shell/qt/idioma.h"
-#include "shell/qt/ventanaform1.h"
+#include "shell/qt/programa.h"
 
 #include <QApplication>
 
@@ -7,7 +7,7 @@ int main(int argc, char* argv[])
 {
     QApplication aplicacion(argc, argv);
     eeprog::hablarespanol(aplicacion);
-    eeprog::VentanaForm1 Form1;
-    Form1.show();
+    eeprog::prepararaplicacion();
+    eeprog::Programa programa;
     return aplicacion.exec();
 }

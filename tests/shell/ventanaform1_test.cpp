@@ -98,7 +98,7 @@ TEST_F(VentanaTest, StatusPanelsStandSideBySideAtTheirWidthsAndKeepTheWholeTextA
     for (const auto& [twips, nombre] : lugares) {
         QWidget* panel = barra.childAt(pixeles(twips), medio);
         ASSERT_NE(panel, nullptr) << twips;
-        EXPECT_EQ(panel->accessibleName().toStdString(), nombre) << twips;
+        EXPECT_EQ(panel->accessibleDescription().toStdString(), nombre) << twips;
     }
     EXPECT_EQ(barra.childAt(pixeles(100), medio)->toolTip().toStdString(),
               "Programador de memorias EEPROM AT28c64b por Varnimo");

@@ -30,7 +30,7 @@ BarraEstado::BarraEstado(QWidget* padre) : QStatusBar(padre)
         etiqueta->setFont(letrapanel());
         etiqueta->setFrameStyle(QFrame::Panel | QFrame::Sunken);
         etiqueta->setTextFormat(Qt::PlainText);
-        etiqueta->setAccessibleName(QStringLiteral("Panel %1").arg(i + 1));
+        etiqueta->setAccessibleDescription(QStringLiteral("Panel %1").arg(i + 1)); // its name is its text
         const int ancho = pixeles(anchos[i]);
         etiqueta->setGeometry(izquierda, 0, ancho, altura());
         izquierda += ancho;

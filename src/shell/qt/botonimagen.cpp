@@ -2,27 +2,66 @@
 
 #include "shell/qt/twips.h"
 
+#include <QAccessibleWidget>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QVBoxLayout>
 
 namespace eeprog {
 
-BotonImagen::BotonImagen(const QString& palabra, const QString& ayuda, QWidget* padre)
-    : QFrame(padre), palabra_(new QLabel(palabra, this))
+namespace {
+
+// The picture button as a push button for screen readers and desktop automation: its
+// word is its name, its tool tip its description, and "press" clicks it.
+class BotonAccesible : public QAccessibleWidget {
+public:
+    explicit BotonAccesible(BotonImagen* boton) : QAccessibleWidget(boton, QAccessible::Button)
+    {
+        addControllingSignal(QStringLiteral("Click()"));
+    }
+
+    QStringList actionNames() const override { return {pressAction()}; }
+
+    void doAction(const QString& accion) override
+    {
+        if (accion == pressAction() && widget()->isEnabled())
+            static_cast<BotonImagen*>(widget())->click();
+    }
+};
+
+QAccessibleInterface* fabricaaccesible(const QString&, QObject* objeto)
 {
+    if (auto* boton = qobject_cast<BotonImagen*>(objeto))
+        return new BotonAccesible(boton);
+    return nullptr;
+}
+
+} // namespace
+
+BotonImagen::BotonImagen(const QString& palabra, const QString& ayuda, const QPixmap& icono, QWidget* padre)
+    : QFrame(padre), imagen_(new QLabel(this))
+{
+    static const bool accesible = (QAccessible::installFactory(fabricaaccesible), true);
+    Q_UNUSED(accesible);
     setToolTip(ayuda);
     setAccessibleName(palabra);
     setAccessibleDescription(ayuda);
     setAutoFillBackground(true);
-    QFont letra = font();
-    letra.setPointSize(6);
-    letra.setBold(true);
-    palabra_->setFont(letra);
-    palabra_->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    // Without its icon the button still shows its word.
+    if (icono.isNull()) {
+        QFont letra = font();
+        letra.setPointSize(6);
+        letra.setBold(true);
+        imagen_->setFont(letra);
+        imagen_->setText(palabra);
+        imagen_->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    } else {
+        imagen_->setPixmap(icono);
+        imagen_->setAlignment(Qt::AlignCenter);
+    }
     auto* disposicion = new QVBoxLayout(this);
-    disposicion->setContentsMargins(1, 1, 1, 2);
-    disposicion->addWidget(palabra_);
+    disposicion->setContentsMargins(0, 0, 0, 0);
+    disposicion->addWidget(imagen_);
     dibujarapariencia();
 }
 
@@ -56,6 +95,12 @@ void BotonImagen::ponercolor(Color fondo)
 void BotonImagen::habilitar(bool habilitado)
 {
     setEnabled(habilitado);
+}
+
+void BotonImagen::click()
+{
+    if (isEnabled())
+        emit Click();
 }
 
 // A click is a left button let go over the button, as with any push button.

@@ -8,18 +8,21 @@ class QLabel;
 
 namespace eeprog {
 
-// A picture button of the command row: a framed square with its word at the bottom.
-// At rest it lies flat with a thin border; while its operation runs it stands out.
+// A picture button of the command row: a framed square holding its 48 x 48 icon, whose
+// lower part shows the word. At rest it lies flat with a thin border; while its operation
+// runs it stands out. Assistive technology sees a push button named by its word.
 class BotonImagen : public QFrame, public Boton {
     Q_OBJECT
 public:
-    BotonImagen(const QString& palabra, const QString& ayuda, QWidget* padre = nullptr);
+    BotonImagen(const QString& palabra, const QString& ayuda, const QPixmap& icono, QWidget* padre = nullptr);
 
     void ponerapariencia(Apariencia apariencia) override;
     void ponercolor(Color fondo) override;
     void habilitar(bool habilitado) override;
 
     Apariencia apariencia() const { return apariencia_; }
+    // What a click does, for the keyboard of assistive technology too.
+    void click();
 
 signals:
     void Click();
@@ -30,7 +33,7 @@ protected:
 private:
     void dibujarapariencia();
 
-    QLabel* palabra_;
+    QLabel* imagen_;
     Apariencia apariencia_ = Apariencia::plana;
 };
 

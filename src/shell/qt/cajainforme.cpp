@@ -37,6 +37,7 @@ void CajaInforme::ponercolor(Color fondo)
 {
     QPalette paleta = palette();
     paleta.setColor(QPalette::Base, acolorqt(fondo));
+    paleta.setColor(QPalette::Text, Qt::black); // the skin colours the box, not its text
     setPalette(paleta);
 }
 

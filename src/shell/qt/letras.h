@@ -5,10 +5,13 @@
 
 namespace eeprog {
 
-// The fonts of the grids and their boxes. Courier New is served by Liberation Mono where it
+// The fonts of the program's windows. Courier New is served by Liberation Mono where it
 // is missing; Terminal, a Windows bitmap font, by DejaVu Sans Mono, which has a glyph for
 // each of the 256 codes of the code page.
-QFont courier(int puntos, bool negrita = false);
-QFont terminal(int puntos);
+QFont courier(double puntos, bool negrita = false);
+QFont terminal(double puntos);
+// The about box's title lines and its notice of rights.
+QFont comic(double puntos);
+QFont sansserif(double puntos);
 
 } // namespace eeprog

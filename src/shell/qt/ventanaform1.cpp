@@ -10,7 +10,9 @@
 #include "shell/qt/letras.h"
 #include "shell/qt/puertoserie.h"
 #include "shell/qt/rejillas.h"
+#include "shell/menuskin.h"
 #include "shell/qt/twips.h"
+#include "shell/qt/ventanaabout.h"
 #include "shell/qt/vistacaja.h"
 #include "shell/qt/vistarejilla.h"
 
@@ -44,12 +46,26 @@ constexpr std::array<Palabras, 8> botones{{
     {"editado", "EDITADO", "Editar  el programa"},
 }};
 
-QAction* opcion(QMenu* menu, const char* nombre, const char* texto, const char* atajo)
+QAction* opcion(QWidget* menu, const char* nombre, const char* texto, const char* atajo = "")
 {
-    QAction* accion = menu->addAction(QString::fromUtf8(texto));
+    auto* accion = new QAction(QString::fromUtf8(texto), menu);
     accion->setObjectName(QString::fromUtf8(nombre));
     accion->setShortcut(QKeySequence(QString::fromUtf8(atajo)));
+    menu->addAction(accion);
     return accion;
+}
+
+QMenu* menu(QMenuBar* barra, const char* nombre, const char* texto)
+{
+    QMenu* nuevo = barra->addMenu(QString::fromUtf8(texto));
+    nuevo->setObjectName(QString::fromUtf8(nombre));
+    nuevo->menuAction()->setObjectName(QString::fromUtf8(nombre));
+    return nuevo;
+}
+
+void separador(QMenu* menu, const char* nombre)
+{
+    menu->addSeparator()->setObjectName(QString::fromUtf8(nombre));
 }
 
 VistaCaja* caja(VistaCaja::Letras letras, const QFont& fuente, const char* nombre, QWidget* lienzo)
@@ -63,6 +79,11 @@ VistaCaja* caja(VistaCaja::Letras letras, const QFont& fuente, const char* nombr
 
 } // namespace
 
+std::filesystem::path directorioprograma()
+{
+    return QCoreApplication::applicationDirPath().toStdString();
+}
+
 Dependencias dependenciasreales()
 {
     return {std::make_unique<PuertoSerie>(), std::make_unique<CajaMensajes>(), std::make_unique<RelojSistema>(),
@@ -75,13 +96,16 @@ VentanaForm1::VentanaForm1(Dependencias dependencias, QWidget* padre)
     setWindowTitle(QString::fromStdString(titulo));
     auto* lienzo = new QWidget(this);
     setCentralWidget(lienzo);
+    setWindowIcon(QIcon(QStringLiteral(":/iconos/eeprog-32.png")));
     crearcontroles(lienzo);
-    crearmenu();
     skin_.registrar(Formulario::Form1, this);
-    logica_.emplace(controles(), Servicios{*dependencias_.puerto, *dependencias_.reloj, *dependencias_.avisos, skin_,
-                                           *dependencias_.CommonDialog1});
+    logica_.emplace(controles(),
+                    Servicios{*dependencias_.puerto, *dependencias_.reloj, *dependencias_.avisos, skin_,
+                              *dependencias_.CommonDialog1, *dependencias_.abridor, dependencias_.directorio});
     conectareditores();
+    prepararordenes();
     conectarbotones();
+    crearmenu();
     dimensionar();
 }
 
@@ -109,8 +133,9 @@ void VentanaForm1::crearcontroles(QWidget* lienzo)
 void VentanaForm1::crearbotones(QWidget* lienzo)
 {
     for (std::size_t i = 0; i < botones.size(); ++i) {
+        const QPixmap icono(QStringLiteral(":/iconos/%1.png").arg(QString::fromUtf8(botones[i].nombre)));
         auto* boton =
-            new BotonImagen(QString::fromUtf8(botones[i].palabra), QString::fromUtf8(botones[i].ayuda), lienzo);
+            new BotonImagen(QString::fromUtf8(botones[i].palabra), QString::fromUtf8(botones[i].ayuda), icono, lienzo);
         boton->setObjectName(QString::fromUtf8(botones[i].nombre));
         boton->setGeometry(rectangulo(1080 + 840 * static_cast<int>(i), 120, 750, 750));
         botones_[i] = boton;
@@ -137,51 +162,99 @@ void VentanaForm1::conectareditores()
     txtcelda_->Change = [this] { editorascii_->txtcelda_Change(); };
 }
 
-void VentanaForm1::conectarbotones()
+// The device operations hold the window from their first byte to their last.
+void VentanaForm1::prepararordenes()
 {
-    connect(botones_[0], &BotonImagen::Click, this, [this] { logica_->abrir_Click(); });
-    connect(botones_[1], &BotonImagen::Click, this, [this] { logica_->guardar_Click(); });
-    connect(botones_[2], &BotonImagen::Click, this, [this] { bloquearentrada([this] { logica_->leer_Click(); }); });
-    connect(botones_[3], &BotonImagen::Click, this, [this] { logica_->borrar_Click(); });
-    connect(botones_[4], &BotonImagen::Click, this, [this] { bloquearentrada([this] { logica_->grabar_Click(); }); });
-    connect(botones_[5], &BotonImagen::Click, this,
-            [this] { bloquearentrada([this] { logica_->verificar_Click(); }); });
-    connect(botones_[6], &BotonImagen::Click, this, [this] { logica_->edit_Click(); });
-    connect(botones_[7], &BotonImagen::Click, this, [this] { bloquearentrada([this] { logica_->editado_Click(); }); });
+    Form1& f = *logica_;
+    ordenes_ = {[&f] { f.abrir_Click(); },
+                [&f] { f.guardar_Click(); },
+                [&f] { bloquearentrada([&f] { f.leer_Click(); }); },
+                [&f] { f.borrar_Click(); },
+                [&f] { bloquearentrada([&f] { f.grabar_Click(); }); },
+                [&f] { bloquearentrada([&f] { f.verificar_Click(); }); },
+                [&f] { f.edit_Click(); },
+                [&f] { bloquearentrada([&f] { f.editado_Click(); }); }};
 }
 
-// A menu entry does what its button does, the button's look included. Salir ends the run
-// at once: no question, nothing saved.
+void VentanaForm1::conectarbotones()
+{
+    for (std::size_t i = 0; i < botones_.size(); ++i)
+        connect(botones_[i], &BotonImagen::Click, this, [this, i] { ordenes_[i](); });
+}
+
+// A menu entry that matches a button does what the button does, its look included.
+// Salir ends the run at once: no question, nothing saved. The entries with nothing
+// connected stand in the menus, enabled, and do nothing.
 void VentanaForm1::crearmenu()
 {
-    QMenu* menuarchivo = menuBar()->addMenu(QStringLiteral("&Archivo"));
-    connect(opcion(menuarchivo, "opcionabrir", "&Abrir", "Ctrl+A"), &QAction::triggered, this,
-            [this] { logica_->abrir_Click(); });
-    connect(opcion(menuarchivo, "opcionguardar", "&Guardar", "Ctrl+G"), &QAction::triggered, this,
-            [this] { logica_->guardar_Click(); });
-    menuarchivo->addSeparator()->setObjectName(QStringLiteral("lineaseparadora1"));
+    QMenuBar* barra = menuBar();
+    auto orden = [this](QAction* accion, std::size_t boton) {
+        connect(accion, &QAction::triggered, this, [this, boton] { ordenes_[boton](); });
+    };
+    QMenu* menuarchivo = menu(barra, "menuarchivo", "&Archivo");
+    orden(opcion(menuarchivo, "opcionabrir", "&Abrir", "Ctrl+A"), 0);
+    orden(opcion(menuarchivo, "opcionguardar", "&Guardar", "Ctrl+G"), 1);
+    separador(menuarchivo, "lineaseparadora1");
     connect(opcion(menuarchivo, "Opcionsalir", "&Salir", "Ctrl+X"), &QAction::triggered, qApp,
             [] { QCoreApplication::exit(0); });
 
-    QMenu* menueditor = menuBar()->addMenu(QStringLiteral("&Edicion"));
-    connect(opcion(menueditor, "opcioneditar", "&Editar", "Ctrl+E"), &QAction::triggered, this,
-            [this] { logica_->edit_Click(); });
+    QMenu* menueditor = menu(barra, "menueditor", "&Edicion");
+    orden(opcion(menueditor, "opcioneditar", "&Editar", "Ctrl+E"), 6);
     connect(opcion(menueditor, "opcionlimpiar", "&Limpiar", "Ctrl+L"), &QAction::triggered, this,
             [this] { logica_->opcionlimpiar_Click(); });
 
-    // Seleccionar and Informacion have no work behind them.
-    QMenu* menudispositivo = menuBar()->addMenu(QStringLiteral("&Dispositivo"));
+    crearmenuver(menu(barra, "menuver", "&Ver"));
+
+    QMenu* menudispositivo = menu(barra, "menudispositivo", "&Dispositivo");
     opcion(menudispositivo, "opcionseleccionar", "&Seleccionar", "Ctrl+S");
     opcion(menudispositivo, "opcioinformacion", "&Informacion", "Ctrl+I");
-    menudispositivo->addSeparator()->setObjectName(QStringLiteral("lineaseparadora2"));
-    connect(opcion(menudispositivo, "opcionleer", "Leer", ""), &QAction::triggered, this,
-            [this] { bloquearentrada([this] { logica_->leer_Click(); }); });
-    connect(opcion(menudispositivo, "opcionborrar", "Borrar", ""), &QAction::triggered, this,
-            [this] { logica_->borrar_Click(); });
-    connect(opcion(menudispositivo, "opcionverificar", "Verificar", ""), &QAction::triggered, this,
-            [this] { bloquearentrada([this] { logica_->verificar_Click(); }); });
-    connect(opcion(menudispositivo, "opciongravar", "Gravar", ""), &QAction::triggered, this,
-            [this] { bloquearentrada([this] { logica_->grabar_Click(); }); });
+    separador(menudispositivo, "lineaseparadora2");
+    orden(opcion(menudispositivo, "opcionleer", "Leer"), 2);
+    orden(opcion(menudispositivo, "opcionborrar", "Borrar"), 3);
+    orden(opcion(menudispositivo, "opcionverificar", "Verificar"), 5);
+    orden(opcion(menudispositivo, "opciongravar", "Gravar"), 4);
+
+    opcion(menu(barra, "menuprogramador", "&Programador"), "opcioncomunicacion", "Provar/Comunicacion");
+    crearmenuskin(menu(barra, "menuskin", "&Skin"));
+    opcion(barra, "opcioniraweb", "Ir a WEB");
+
+    QMenu* menuayuda = menu(barra, "menuayuda", "Ay&uda");
+    opcion(menuayuda, "opcpion_como_grabar", "Como_Grabar");
+    opcion(menuayuda, "opcion_como_leer", "Como_Leer");
+    opcion(menuayuda, "opcion_como_editar", "Como_Editar");
+    connect(opcion(barra, "opcionacercade", "Acerca de"), &QAction::triggered, this,
+            &VentanaForm1::opcionacercade_Click);
+}
+
+void VentanaForm1::crearmenuver(QMenu* menuver)
+{
+    connect(opcion(menuver, "opcionel_circuito", "El_circuito"), &QAction::triggered, this,
+            [this] { logica_->opcionel_circuito_Click(); });
+    separador(menuver, "a");
+    opcion(menuver, "opcionplaca_arriba", "Placa_Arriba");
+    opcion(menuver, "opcionplaca_abajo", "Placa_Abajo");
+    separador(menuver, "b");
+    connect(opcion(menuver, "opcionprograma", "Programa"), &QAction::triggered, this,
+            [this] { logica_->opcionprograma_Click(); });
+}
+
+void VentanaForm1::crearmenuskin(QMenu* menuskin)
+{
+    for (std::size_t index = 0; index < skinsdelmenu.size(); ++index) {
+        const std::string caption(skinsdelmenu[index].caption);
+        QAction* entrada = opcion(menuskin, "MNUCamb", caption.c_str());
+        connect(entrada, &QAction::triggered, this, [this, index] { logica_->MNUCamb_Click(static_cast<int>(index)); });
+    }
+}
+
+// A box that stands open is only brought forward: loading it again would dress it again.
+void VentanaForm1::opcionacercade_Click()
+{
+    if (!frmAbout_)
+        frmAbout_ = new VentanaAbout(skin_, logica_->edicion(), this);
+    frmAbout_->show();
+    frmAbout_->raise();
+    frmAbout_->activateWindow();
 }
 
 // The client area has a fixed size in twips; the window opens centred on the screen.

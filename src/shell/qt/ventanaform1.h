@@ -4,16 +4,22 @@
 #include "editor/editorascii.h"
 #include "editor/editorhex.h"
 #include "link/puerto.h"
+#include "plataforma/abridor.h"
 #include "plataforma/avisos.h"
 #include "plataforma/dialogo.h"
 #include "plataforma/reloj.h"
 #include "plataforma/timbre.h"
-#include "shell/qt/timbresistema.h"
 #include "shell/form1.h"
+#include "shell/qt/abridorescritorio.h"
 #include "shell/qt/motorskin.h"
+#include "shell/qt/timbresistema.h"
+#include "shell/qt/ventanaabout.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
+#include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -26,6 +32,9 @@ class CajaInforme;
 class Rejillas;
 class VistaCaja;
 
+// The directory of the program's file, whatever the current directory is.
+std::filesystem::path directorioprograma();
+
 // What the window talks to outside itself. Tests put recording fakes in their place.
 struct Dependencias {
     std::unique_ptr<Puerto> puerto;
@@ -33,6 +42,9 @@ struct Dependencias {
     std::unique_ptr<Reloj> reloj;
     std::unique_ptr<Dialogo> CommonDialog1;
     std::unique_ptr<Timbre> timbre = std::make_unique<TimbreSistema>();
+    std::unique_ptr<Abridor> abridor = std::make_unique<AbridorEscritorio>();
+    // Where the skins and the circuit documents lie.
+    std::filesystem::path directorio = directorioprograma();
 };
 
 // The serial port of the system, message boxes and file dialogs on the screen, and the
@@ -55,6 +67,12 @@ public:
     VistaCaja& HEXcelda() const { return *HEXcelda_; }
     VistaCaja& txtcelda() const { return *txtcelda_; }
     Form1& logica() { return *logica_; }
+    MotorSkin& skin() { return skin_; }
+    // The about box while it stands open, else null.
+    VentanaAbout* frmAbout() const { return frmAbout_; }
+
+    // Shows the about box beside the window, loading it first if it is not open.
+    void opcionacercade_Click();
 
 protected:
     void showEvent(QShowEvent* evento) override;
@@ -63,6 +81,9 @@ private:
     void crearcontroles(QWidget* lienzo);
     void crearbotones(QWidget* lienzo);
     void crearmenu();
+    void crearmenuver(QMenu* menu);
+    void crearmenuskin(QMenu* menu);
+    void prepararordenes();
     void conectarbotones();
     void crearcajas(QWidget* lienzo);
     void conectareditores();
@@ -76,6 +97,9 @@ private:
     BarraEstado* StatusBar1_ = nullptr;
     Barra* ProgressBar1_ = nullptr;
     std::array<BotonImagen*, 8> botones_{};
+    // What each button does, for its menu entry to do the same.
+    std::array<std::function<void()>, 8> ordenes_;
+    QPointer<VentanaAbout> frmAbout_;
     std::unique_ptr<Rejillas> rejillas_;
     VistaCaja* HEXcelda_ = nullptr;
     VistaCaja* txtcelda_ = nullptr;

@@ -159,7 +159,8 @@ void VistaRejilla::dibujarcelda(QPainter& pintor, int fila, int columna) const
     pintor.setPen(acolorqt(rejilla_.GridColor()));
     pintor.drawLine(celda.topRight(), celda.bottomRight());
     pintor.drawLine(celda.bottomLeft(), celda.bottomRight());
-    pintor.setPen(letras_ == Letras::glifos ? QColor(Qt::black) : palette().color(QPalette::WindowText));
+    // The cells' text is black in every skin: only the background follows the skin.
+    pintor.setPen(QColor(Qt::black));
     pintor.drawText(celda.adjusted(margentexto, 0, -margentexto, 0),
                     alineacionqt(rejilla_.ColAlignment(columna)) | Qt::TextSingleLine, textocelda(fila, columna));
 }

@@ -1,0 +1,86 @@
+#include "aplicacion.h"
+#include "dialogofalso.h"
+#include "pantallafalsa.h"
+#include "placa.h"
+#include "puertoplaca.h"
+#include "shell/qt/programa.h"
+#include "shell/qt/ventanasplash.h"
+
+#include <QLabel>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace eeprog {
+namespace {
+
+using namespace prueba;
+
+// A run from its first window: the splash, with the main window made over fakes.
+class ArranqueTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() { crearaplicacion(); }
+
+    Programa::Creador creador()
+    {
+        return [this] {
+            ++creadas;
+            return std::make_unique<VentanaForm1>(
+                Dependencias{std::make_unique<PuertoPlaca>(placa), std::make_unique<AvisosFalsos>(),
+                             std::make_unique<RelojFijo>(), std::make_unique<DialogoFalso>()});
+        };
+    }
+
+    static bool visible(const VentanaForm1* ventana) { return ventana && ventana->isVisible(); }
+
+    Placa placa;
+    int creadas = 0;
+};
+
+TEST_F(ArranqueTest, WithNothingGivenTheMainWindowComesAtTheFirstTickAndTheSplashGoesAtTheFourth)
+{
+    Programa programa(creador());
+    QPointer<VentanaSplash> splash = programa.frmSplash();
+    ASSERT_TRUE(splash && splash->isVisible());
+    EXPECT_EQ(programa.Form1(), nullptr);
+    EXPECT_EQ(splash->Label1().text(), "Programador de Memoria EEPROM AT28C64B ");
+    EXPECT_EQ(splash->Label2().text(), "Cargando Espere..........");
+
+    ASSERT_TRUE(QTest::qWaitFor([&] { return programa.Form1() != nullptr; }, 2000));
+    EXPECT_TRUE(visible(programa.Form1()));
+    EXPECT_TRUE(splash);
+    EXPECT_EQ(splash->logica().cuentaticks(), 1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return splash.isNull(); }, 3000));
+    EXPECT_EQ(creadas, 1);
+    EXPECT_TRUE(visible(programa.Form1()));
+}
+
+// A click on the texts does nothing; a key makes the splash go, and then brings the main
+// window up; no tick comes any more.
+TEST_F(ArranqueTest, AKeyBeforeTheFirstTickClosesTheSplashAndThenBringsUpTheMainWindow)
+{
+    Programa programa(creador());
+    QPointer<VentanaSplash> splash = programa.frmSplash();
+    QTest::mouseClick(&splash->Label1(), Qt::LeftButton);
+    EXPECT_TRUE(splash && splash->isVisible());
+    EXPECT_EQ(programa.Form1(), nullptr);
+
+    QTest::keyClick(splash, Qt::Key_A);
+    EXPECT_FALSE(splash && splash->isVisible());
+    EXPECT_TRUE(visible(programa.Form1()));
+    QTest::qWait(4 * FrmSplash::intervalo + 200);
+    EXPECT_TRUE(splash.isNull());
+    EXPECT_EQ(creadas, 1);
+}
+
+TEST_F(ArranqueTest, AClickBesideTheTextsClosesTheSplash)
+{
+    Programa programa(creador());
+    QPointer<VentanaSplash> splash = programa.frmSplash();
+    QTest::mouseClick(splash, Qt::LeftButton, {}, QPoint(3, 3));
+    EXPECT_FALSE(splash && splash->isVisible());
+    EXPECT_TRUE(visible(programa.Form1()));
+}
+
+} // namespace
+} // namespace eeprog
