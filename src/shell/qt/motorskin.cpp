@@ -25,20 +25,20 @@ std::optional<std::string> leertodo(const std::string& ruta)
 
 } // namespace
 
-QPalette paletade(const Aspecto& aspecto)
+QPalette paletade(const Tema& tema)
 {
     QPalette paleta;
-    paleta.setColor(QPalette::Window, acolorqt(aspecto.ventana));
-    paleta.setColor(QPalette::WindowText, acolorqt(aspecto.texto));
-    paleta.setColor(QPalette::Base, acolorqt(aspecto.color));
-    paleta.setColor(QPalette::AlternateBase, acolorqt(aspecto.ventana));
-    paleta.setColor(QPalette::Text, acolorqt(textosobre(aspecto.color)));
-    paleta.setColor(QPalette::Button, acolorqt(aspecto.panel));
-    paleta.setColor(QPalette::ButtonText, acolorqt(aspecto.textopanel));
-    paleta.setColor(QPalette::Highlight, acolorqt(aspecto.resalte));
-    paleta.setColor(QPalette::HighlightedText, acolorqt(aspecto.textoresalte));
-    paleta.setColor(QPalette::Disabled, QPalette::ButtonText, acolorqt(aspecto.panel).darker(130));
-    paleta.setColor(QPalette::Disabled, QPalette::WindowText, acolorqt(aspecto.ventana).darker(150));
+    paleta.setColor(QPalette::Window, acolorqt(tema.ventana));
+    paleta.setColor(QPalette::WindowText, acolorqt(tema.texto));
+    paleta.setColor(QPalette::Base, acolorqt(tema.color));
+    paleta.setColor(QPalette::AlternateBase, acolorqt(tema.ventana));
+    paleta.setColor(QPalette::Text, acolorqt(textosobre(tema.color)));
+    paleta.setColor(QPalette::Button, acolorqt(tema.panel));
+    paleta.setColor(QPalette::ButtonText, acolorqt(tema.textopanel));
+    paleta.setColor(QPalette::Highlight, acolorqt(tema.resalte));
+    paleta.setColor(QPalette::HighlightedText, acolorqt(tema.textoresalte));
+    paleta.setColor(QPalette::Disabled, QPalette::ButtonText, acolorqt(tema.panel).darker(130));
+    paleta.setColor(QPalette::Disabled, QPalette::WindowText, acolorqt(tema.ventana).darker(150));
     return paleta;
 }
 
@@ -52,8 +52,8 @@ void MotorSkin::registrar(Formulario formulario, QWidget* ventana)
 void MotorSkin::cargar(const std::string& ruta)
 {
     if (const auto texto = leertodo(ruta))
-        if (const auto aspecto = leeraspecto(*texto))
-            aspecto_ = *aspecto;
+        if (const auto tema = leertema(*texto))
+            tema_ = *tema;
 }
 
 // Menus open as windows of their own, so the palette is given to each of them too.
@@ -63,7 +63,7 @@ void MotorSkin::aplicar(Formulario formulario)
     if (encontrada == ventanas_.end() || !encontrada->second)
         return;
     QWidget* ventana = encontrada->second;
-    const QPalette paleta = paletade(aspecto_);
+    const QPalette paleta = paletade(tema_);
     ventana->setPalette(paleta);
     for (QMenu* menu : ventana->findChildren<QMenu*>())
         menu->setPalette(paleta);
@@ -71,7 +71,7 @@ void MotorSkin::aplicar(Formulario formulario)
 
 Color MotorSkin::color() const
 {
-    return aspecto_.color;
+    return tema_.color;
 }
 
 } // namespace eeprog

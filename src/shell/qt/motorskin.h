@@ -1,7 +1,7 @@
 #pragma once
 
 #include "plataforma/skin.h"
-#include "shell/aspecto.h"
+#include "shell/tema.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -21,14 +21,12 @@ public:
     void aplicar(Formulario formulario) override;
     Color color() const override;
 
-    const Aspecto& aspecto() const { return aspecto_; }
-
 private:
-    Aspecto aspecto_ = aspectoinicial();
+    Tema tema_ = temainicial();
     std::map<Formulario, QPointer<QWidget>> ventanas_;
 };
 
 // The palette of the windows of a skin.
-QPalette paletade(const Aspecto& aspecto);
+QPalette paletade(const Tema& tema);
 
 } // namespace eeprog

@@ -1,4 +1,4 @@
-#include "shell/aspecto.h"
+#include "shell/tema.h"
 
 #include <charconv>
 #include <map>
@@ -57,7 +57,7 @@ std::optional<std::map<std::string, std::string, std::less<>>> ajustes(std::stri
 
 } // namespace
 
-Aspecto aspectoinicial()
+Tema temainicial()
 {
     const Color fondo{221, 247, 224};
     return {"Media skin", fondo, fondo, {115, 153, 120}, negro, negro, {115, 153, 120}, {255, 255, 255}};
@@ -69,7 +69,7 @@ Color textosobre(Color fondo)
     return brillo >= 128 * 1000 ? negro : Color{255, 255, 255};
 }
 
-std::optional<Aspecto> leeraspecto(std::string_view texto)
+std::optional<Tema> leertema(std::string_view texto)
 {
     const auto leidos = ajustes(texto);
     if (!leidos || !leidos->contains("color"))
@@ -83,19 +83,19 @@ std::optional<Aspecto> leeraspecto(std::string_view texto)
         valido = valido && color.has_value();
         return color.value_or(omision);
     };
-    Aspecto aspecto;
+    Tema tema;
     const auto nombre = leidos->find("nombre");
-    aspecto.nombre = nombre == leidos->end() ? std::string{} : nombre->second;
-    aspecto.color = colorde("color", negro);
-    aspecto.ventana = colorde("ventana", aspecto.color);
-    aspecto.panel = colorde("panel", aspecto.ventana);
-    aspecto.texto = colorde("texto", textosobre(aspecto.ventana));
-    aspecto.textopanel = colorde("textopanel", textosobre(aspecto.panel));
-    aspecto.resalte = colorde("resalte", aspecto.panel);
-    aspecto.textoresalte = colorde("textoresalte", textosobre(aspecto.resalte));
+    tema.nombre = nombre == leidos->end() ? std::string{} : nombre->second;
+    tema.color = colorde("color", negro);
+    tema.ventana = colorde("ventana", tema.color);
+    tema.panel = colorde("panel", tema.ventana);
+    tema.texto = colorde("texto", textosobre(tema.ventana));
+    tema.textopanel = colorde("textopanel", textosobre(tema.panel));
+    tema.resalte = colorde("resalte", tema.panel);
+    tema.textoresalte = colorde("textoresalte", textosobre(tema.resalte));
     if (!valido)
         return std::nullopt;
-    return aspecto;
+    return tema;
 }
 
 } // namespace eeprog
