@@ -7,7 +7,9 @@
 #include "shell/qt/ventanasplash.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -80,6 +82,32 @@ TEST_F(ArranqueTest, AClickBesideTheTextsClosesTheSplash)
     QTest::mouseClick(splash, Qt::LeftButton, {}, QPoint(3, 3));
     EXPECT_FALSE(splash && splash->isVisible());
     EXPECT_TRUE(visible(programa.Form1()));
+}
+
+// Closing the main window leaves an open about box standing; the run ends when that box
+// is closed in turn.
+TEST_F(ArranqueTest, AnOpenAboutBoxOutlivesTheMainWindowAndTheRunEndsWithIt)
+{
+    Programa programa(creador());
+    QTest::keyClick(programa.frmSplash(), Qt::Key_A);
+    VentanaForm1* Form1 = programa.Form1();
+    ASSERT_NE(Form1, nullptr);
+    Form1->opcionacercade_Click();
+    bool cajaenpie = false;
+    bool agotado = false;
+    QTimer::singleShot(0, Form1, [Form1] { Form1->close(); });
+    QTimer::singleShot(200, Form1, [&] {
+        cajaenpie = Form1->frmAbout() && Form1->frmAbout()->isVisible();
+        if (Form1->frmAbout())
+            Form1->frmAbout()->cmdOK().click();
+    });
+    QTimer::singleShot(5000, [&] {
+        agotado = true;
+        QCoreApplication::exit(99);
+    });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_TRUE(cajaenpie);
+    EXPECT_FALSE(agotado);
 }
 
 } // namespace

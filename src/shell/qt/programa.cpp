@@ -3,8 +3,44 @@
 #include "shell/qt/ventanasplash.h"
 
 #include <QApplication>
+#include <QTimer>
+
+#include <algorithm>
 
 namespace eeprog {
+
+namespace {
+
+// The run ends when no window of it is left. Qt would end it with the main window, as it
+// does not count the about box, which belongs to that window; the box is to stay open
+// until it is closed in turn.
+class FinDeCorrida : public QObject {
+public:
+    FinDeCorrida()
+    {
+        QApplication::setQuitOnLastWindowClosed(false);
+        qApp->installEventFilter(this);
+    }
+    ~FinDeCorrida() override { QApplication::setQuitOnLastWindowClosed(true); }
+
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override
+    {
+        if (evento->type() == QEvent::Hide && objeto->isWidgetType() && static_cast<QWidget*>(objeto)->isWindow())
+            QTimer::singleShot(0, this, &FinDeCorrida::terminarsinoqueda);
+        return false;
+    }
+
+private:
+    static void terminarsinoqueda()
+    {
+        const auto ventanas = QApplication::topLevelWidgets();
+        if (std::none_of(ventanas.begin(), ventanas.end(), [](const QWidget* v) { return v->isVisible(); }))
+            QCoreApplication::quit();
+    }
+};
+
+} // namespace
 
 void prepararaplicacion()
 {
@@ -12,7 +48,7 @@ void prepararaplicacion()
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/iconos/eeprog-48.png")));
 }
 
-Programa::Programa(Creador crear) : crear_(std::move(crear))
+Programa::Programa(Creador crear) : crear_(std::move(crear)), findecorrida_(std::make_unique<FinDeCorrida>())
 {
     frmSplash_ = new VentanaSplash([this] { mostrarForm1(); });
     frmSplash_->show();

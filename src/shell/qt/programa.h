@@ -30,6 +30,7 @@ private:
     void mostrarForm1();
 
     Creador crear_;
+    std::unique_ptr<QObject> findecorrida_;
     QPointer<VentanaSplash> frmSplash_;
     std::unique_ptr<VentanaForm1> Form1_;
 };

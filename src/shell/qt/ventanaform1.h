@@ -67,7 +67,6 @@ public:
     VistaCaja& HEXcelda() const { return *HEXcelda_; }
     VistaCaja& txtcelda() const { return *txtcelda_; }
     Form1& logica() { return *logica_; }
-    MotorSkin& skin() { return skin_; }
     // The about box while it stands open, else null.
     VentanaAbout* frmAbout() const { return frmAbout_; }
 
