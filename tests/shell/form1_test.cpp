@@ -162,28 +162,5 @@ TEST_F(Form1Test, ASkinFromTheMenuIsLoadedAppliedAndSpreadInThatOrder)
     EXPECT_EQ(txtinforme.texto(), log);
 }
 
-// The documents are the desktop's to show: nothing of the program changes, and the port
-// stays shut.
-TEST_F(Form1Test, TheCircuitDocumentsAreHandedToTheDesktopFromBesideTheProgram)
-{
-    Placa placa;
-    PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor, "/opt/eeprog"});
-    form.Form_Load();
-    bitacora.sucesos.clear();
-    const int aperturas = puerto.aperturas();
-
-    form.opcionel_circuito_Click();
-    form.opcionprograma_Click();
-    form.opcionel_circuito_Click();
-
-    EXPECT_EQ(abridor.abiertos,
-              (std::vector<std::string>{"/opt/eeprog/circuito/Eeprog.bmp", "/opt/eeprog/circuito/at28c64b.hex",
-                                        "/opt/eeprog/circuito/Eeprog.bmp"}));
-    EXPECT_EQ(bitacora.sucesos.size(), 3U); // the three openings and nothing else
-    EXPECT_EQ(puerto.aperturas(), aperturas);
-    EXPECT_EQ(form.registros().totalvector, 0);
-}
-
 } // namespace
 } // namespace eeprog

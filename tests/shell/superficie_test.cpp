@@ -263,15 +263,20 @@ TEST_F(SuperficieTest, AMissingSkinFileKeepsTheSkinAndTheWindowUsable)
     EXPECT_NE(v.ventana->txtinforme().texto().find("... Lectura Concluida!!!"), std::string::npos);
 }
 
+// The documents are the desktop's to show: nothing of the program changes, and the port
+// stays shut.
 TEST_F(SuperficieTest, TheCircuitEntriesHandTheDocumentsToTheDesktopAndLoadNothing)
 {
     Ventana v("/opt/eeprog");
     const Resultado antes = v.resultado();
+    const int aperturas = v.puerto_->aperturas();
     v.accion("opcionel_circuito").trigger();
     v.accion("opcionprograma").trigger();
     EXPECT_EQ(v.abridor_->abiertos,
               (std::vector<std::string>{"/opt/eeprog/circuito/Eeprog.bmp", "/opt/eeprog/circuito/at28c64b.hex"}));
     EXPECT_EQ(v.resultado(), antes);
+    EXPECT_EQ(v.puerto_->aperturas(), aperturas);
+    EXPECT_EQ(v.ventana->logica().registros().totalvector, 0);
     EXPECT_EQ(v.ventana->cuadriculas().fghex.TextMatrix(0, 0), "FF");
 }
 

@@ -62,15 +62,6 @@ TEST(TemaTest, AFileThatBreaksTheRulesGivesNothing)
         EXPECT_FALSE(leertema(texto)) << texto;
 }
 
-TEST(TemaTest, TheStartSkinIsThePaleGreenMediaSkin)
-{
-    const Tema inicial = temainicial();
-    EXPECT_EQ(inicial.nombre, "Media skin");
-    EXPECT_EQ(inicial.color, (Color{221, 247, 224}));
-    EXPECT_EQ(inicial.panel, (Color{115, 153, 120}));
-    EXPECT_EQ(inicial.texto, negro);
-}
-
 // The files shipped in skins/ are named as the menu opens them, case included, each is a
 // skin, and no two look alike; one of them is dark, as some users like them.
 TEST(TemaTest, EveryEntryOfTheSkinMenuHasItsOwnFile)

@@ -24,7 +24,7 @@ public:
 
     void doAction(const QString& accion) override
     {
-        if (accion == pressAction() && widget()->isEnabled())
+        if (accion == pressAction())
             static_cast<BotonImagen*>(widget())->click();
     }
 };
@@ -47,18 +47,8 @@ BotonImagen::BotonImagen(const QString& palabra, const QString& ayuda, const QPi
     setAccessibleName(palabra);
     setAccessibleDescription(ayuda);
     setAutoFillBackground(true);
-    // Without its icon the button still shows its word.
-    if (icono.isNull()) {
-        QFont letra = font();
-        letra.setPointSize(6);
-        letra.setBold(true);
-        imagen_->setFont(letra);
-        imagen_->setText(palabra);
-        imagen_->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
-    } else {
-        imagen_->setPixmap(icono);
-        imagen_->setAlignment(Qt::AlignCenter);
-    }
+    imagen_->setPixmap(icono);
+    imagen_->setAlignment(Qt::AlignCenter);
     auto* disposicion = new QVBoxLayout(this);
     disposicion->setContentsMargins(0, 0, 0, 0);
     disposicion->addWidget(imagen_);
