@@ -6,26 +6,42 @@
 #include <new>
 #include <system_error>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
 namespace eeprog {
 
 namespace fs = std::filesystem;
 
 namespace {
 
-bool volcar(const fs::path& ruta, std::string_view texto)
+// Writes the text over the start of an open file and cuts the file where the text ends. A plain
+// file that must grow is given the room first, so a full disk shows before any old byte is lost.
+bool volcar(int fd, std::string_view texto)
 {
-    std::ofstream salida(ruta, std::ios::binary | std::ios::trunc);
-    salida.write(texto.data(), static_cast<std::streamsize>(texto.size()));
-    salida.close();
-    return !salida.fail();
-}
-
-// Only a plain file that exists is replaced by way of a copy; a new file, or a link that
-// must keep pointing where it points, is written in place.
-bool reemplazable(const fs::path& ruta)
-{
-    std::error_code error;
-    return fs::is_regular_file(fs::symlink_status(ruta, error));
+    struct stat estado {};
+    if (fstat(fd, &estado) != 0 || fcntl(fd, F_SETFL, fcntl(fd, F_GETFL) & ~O_NONBLOCK) != 0)
+        return false;
+    const bool plano = S_ISREG(estado.st_mode);
+    const auto tamano = static_cast<off_t>(texto.size());
+    // Only the growth is asked for: where the file system cannot reserve, the C library does it by
+    // writing past the old end, which a file opened for writing alone allows.
+    if (plano && tamano > estado.st_size && posix_fallocate(fd, estado.st_size, tamano - estado.st_size) != 0) {
+        // A reservation cut short may have grown the file.
+        [[maybe_unused]] const int devuelto = ftruncate(fd, estado.st_size);
+        return false;
+    }
+    for (std::size_t hecho = 0; hecho < texto.size();) {
+        const ssize_t escrito = write(fd, texto.data() + hecho, texto.size() - hecho);
+        if (escrito > 0)
+            hecho += static_cast<std::size_t>(escrito);
+        else if (escrito == 0 || errno != EINTR)
+            return false;
+    }
+    return !plano || ftruncate(fd, tamano) == 0;
 }
 
 } // namespace
@@ -50,26 +66,22 @@ std::optional<std::string> leerarchivo(const std::string& nombre)
 
 bool escribirarchivo(const std::string& nombre, std::string_view texto)
 {
-    const fs::path ruta(nombre);
-    if (nombre.empty() || !reemplazable(ruta))
-        return !nombre.empty() && volcar(ruta, texto);
-    fs::path copia = ruta;
-    copia += ".eeprog-nuevo";
-    std::error_code error;
-    if (!volcar(copia, texto)) {
-        // A copy that could not be made at all (a folder the user may not write to) leaves the
-        // file to be written in place. A copy that was made but not filled says the disk will not
-        // take the text: writing in place then would only spoil the old file.
-        const bool hecha = fs::is_regular_file(fs::symlink_status(copia, error));
-        fs::remove(copia, error);
-        return !hecha && volcar(ruta, texto);
-    }
-    fs::permissions(copia, fs::status(ruta, error).permissions(), error);
-    fs::rename(copia, ruta, error);
-    if (!error)
-        return true;
-    fs::remove(copia, error);
-    return false;
+    // The file is first made new, so that a failed save knows it may remove it. An existing one is
+    // opened without O_CREAT, which the system may refuse on someone else's file in a shared folder
+    // such as /tmp even when the user may write it. Non-blocking, so a pipe that nobody reads fails
+    // the save at once instead of hanging it.
+    constexpr int modo = O_WRONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
+    int fd = open(nombre.c_str(), modo | O_CREAT | O_EXCL, 0666);
+    const bool creado = fd >= 0;
+    if (!creado)
+        fd = open(nombre.c_str(), modo);
+    if (fd < 0)
+        return false;
+    const bool escrito = volcar(fd, texto);
+    const bool hecho = close(fd) == 0 && escrito;
+    if (creado && !hecho)
+        unlink(nombre.c_str());
+    return hecho;
 }
 
 } // namespace eeprog

@@ -10,9 +10,11 @@ namespace eeprog {
 // its end (missing, a directory, no permission, a device rather than a file).
 std::optional<std::string> leerarchivo(const std::string& nombre);
 
-// Replaces the content of a file. The new text goes into a file beside it first and takes
-// the old one's place only once it is whole, so a failed write leaves the old file as it
-// was. False when the text could not be written.
+// Replaces the content of a file, writing into the file itself as the user: its links, owner
+// and permissions stay, a symbolic link is written through, a file he may not write is refused.
+// The room for a longer text is taken before anything is overwritten, so when the disk cannot
+// take the text an existing file is left as it was; a file the failed save created is removed.
+// False when the text could not be written.
 bool escribirarchivo(const std::string& nombre, std::string_view texto);
 
 } // namespace eeprog
