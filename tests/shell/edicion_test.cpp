@@ -12,6 +12,8 @@
 #include "shell/qt/vistacaja.h"
 #include "shell/qt/vistarejilla.h"
 
+#include <QClipboard>
+#include <QInputMethodEvent>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -188,6 +190,38 @@ TEST_F(EdicionTest, TypedCharactersGoIntoFgasciiWithTheirCodesInFghex)
     EXPECT_EQ(c().fgascii.Col(), 3) << "Enter skips a cell";
     EXPECT_EQ(c().fgascii.TextMatrix(0, 2), "\xFF");
     EXPECT_EQ(timbre_->pitidos, 0);
+}
+
+// Delete acts on the box's text alone, raising no KeyPress; a character composed on the
+// keyboard is one key press; paste and undo put nothing into a box.
+TEST_F(EdicionTest, OnlyKeysThatGiveACharacterTypeIntoTheBoxes)
+{
+    c().fgascii.TextMatrix(0, 1, "b");
+    editar();
+    VistaCaja& hex = ventana->HEXcelda();
+    clic(c().fghex, 1, 1);
+    const QString borrar = QStringLiteral("\x7f"); // the text X11 gives Delete
+    QTest::sendKeyEvent(QTest::Click, &hex, Qt::Key_Delete, borrar, {});
+    EXPECT_EQ(hex.Text(), "F");
+    EXPECT_EQ(timbre_->pitidos, 0);
+    QApplication::clipboard()->setText(QStringLiteral("41"));
+    QTest::keyClick(&hex, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(&hex, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(hex.Text(), "F");
+    EXPECT_EQ(c().fghex.Col(), 1);
+
+    VistaCaja& ascii = ventana->txtcelda();
+    clic(c().fgascii, 0, 0);
+    QTest::sendKeyEvent(QTest::Click, &ascii, Qt::Key_Delete, borrar, {});
+    EXPECT_EQ(ascii.Text(), "");
+    EXPECT_EQ(c().fgascii.Col(), 0);
+    QInputMethodEvent compuesto;
+    compuesto.setCommitString(QStringLiteral("é"));
+    QApplication::sendEvent(&ascii, &compuesto);
+    EXPECT_EQ(c().fgascii.TextMatrix(0, 0), "\x82");
+    EXPECT_EQ(c().fghex.TextMatrix(0, 0), "82");
+    EXPECT_EQ(ascii.Text(), "b");
+    EXPECT_EQ(c().fgascii.Col(), 1);
 }
 
 TEST_F(EdicionTest, AfterLimpiarTypingIntoEmptyCellsStoresNothing)

@@ -2,6 +2,7 @@
 #include "dialogofalso.h"
 #include "pantallafalsa.h"
 #include "placa.h"
+#include "plataforma/informe.h"
 #include "puertoplaca.h"
 #include "shell/qt/barra.h"
 #include "shell/qt/barraestado.h"
@@ -23,6 +24,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <utility>
 
 namespace eeprog {
 namespace {
@@ -141,6 +143,32 @@ TEST_F(VentanaTest, TheLogKeepsWhatTheUserTypesAndTheNextLineFollowsIt)
     EXPECT_EQ(log.texto(), cabecera + "Programador..... C O N E C T A D O !!!!\r\nhola");
 }
 
+// A new line moves neither the view nor the caret: past what the box shows, the newest
+// lines lie below until the user scrolls.
+TEST_F(VentanaTest, ANewLogLineMovesNeitherTheViewNorTheCaret)
+{
+    Placa placa;
+    auto ventana = abrir(placa);
+    CajaInforme& log = ventana->txtinforme();
+    RelojFijo reloj;
+    Informe informe(log, reloj);
+    for (int i = 0; i < 20; ++i)
+        informe.linea("... Lectura Concluida!!!");
+    QScrollBar& barra = *log.verticalScrollBar();
+    ASSERT_GT(barra.maximum(), 5);
+    EXPECT_EQ(barra.value(), 0);
+    EXPECT_EQ(log.textCursor().position(), 0);
+
+    barra.setValue(3);
+    QTextCursor caret = log.textCursor();
+    caret.setPosition(10);
+    log.setTextCursor(caret);
+    barra.setValue(3);
+    informe.linea("... Programacion Concluida!!!");
+    EXPECT_EQ(barra.value(), 3);
+    EXPECT_EQ(log.textCursor().position(), 10);
+}
+
 TEST_F(VentanaTest, TheAbrirButtonShowsTheFilesBytesInTheGridsAndNamesItInTheStatusBar)
 {
     Placa placa;
@@ -159,20 +187,33 @@ TEST_F(VentanaTest, TheAbrirButtonShowsTheFilesBytesInTheGridsAndNamesItInTheSta
     EXPECT_EQ(ventana->boton(0).apariencia(), Apariencia::plana);
 }
 
-TEST_F(VentanaTest, TheKeyboardStartsInFgasciiAndTabGoesOnToFghexThenFgdir)
+// Tab and Shift+Tab run through the grids, the log and the buttons, passing by the
+// overlay boxes and a disabled EDITADO; Space presses the button that has the focus.
+TEST_F(VentanaTest, TabRunsThroughTheGridsTheLogAndTheButtonsAndSpacePressesOne)
 {
     Placa placa;
     auto ventana = abrir(placa);
     ventana->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
-    Rejillas& r = ventana->rejillas();
-    EXPECT_TRUE(r.fgascii().hasFocus());
-    QTest::keyClick(&r.fgascii(), Qt::Key_Down);
-    EXPECT_EQ(r.fgascii().rejilla().Row(), 1);
-    QTest::keyClick(&r.fgascii(), Qt::Key_Tab);
-    EXPECT_TRUE(r.fghex().hasFocus());
-    QTest::keyClick(&r.fghex(), Qt::Key_Tab);
-    EXPECT_TRUE(r.fgdir().hasFocus());
+    auto recorrer = [](int veces, Qt::KeyboardModifiers modo = {}) {
+        std::vector<std::string> nombres;
+        for (int i = 0; i < veces; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, modo);
+            nombres.push_back(QApplication::focusWidget()->objectName().toStdString());
+        }
+        return nombres;
+    };
+    EXPECT_EQ(ventana->rejillas().fgascii().objectName(), "fgascii");
+    EXPECT_TRUE(ventana->rejillas().fgascii().hasFocus());
+    EXPECT_EQ(recorrer(12), (std::vector<std::string>{"fghex", "fgdir", "txtinforme", "abrir", "guardar", "leer",
+                                                      "borrar", "grabar", "verificar", "edit", "fgascii", "fghex"}));
+    EXPECT_EQ(recorrer(3, Qt::ShiftModifier), (std::vector<std::string>{"fgascii", "edit", "verificar"}));
+    EXPECT_EQ(ventana->txtinforme().texto().find('\t'), std::string::npos);
+
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_TRUE(ventana->boton(7).isEnabled()) << "EDITAR was pressed";
+    EXPECT_EQ(recorrer(2), (std::vector<std::string>{"editado", "fgascii"}));
 }
 
 TEST_F(VentanaTest, CtrlAAndCtrlGShowTheOpenAndTheSaveDialog)
@@ -233,38 +274,48 @@ TEST_F(VentanaTest, TheLeerButtonReadsTheChipIntoTheGridsWithThePanelAndTheBarAt
     EXPECT_FALSE(puerto_->abierto());
 }
 
-// A board that, on the first byte of an operation, has the user click LEER again.
+// A board that, on the first byte of an operation, has the user click on some buttons.
 class PuertoImpaciente : public PuertoPlaca {
 public:
-    using PuertoPlaca::PuertoPlaca;
-    QWidget* boton = nullptr;
+    PuertoImpaciente(Placa& placa, Bitacora& bitacora) : PuertoPlaca(placa), bitacora_(bitacora) {}
+    std::vector<QWidget*> botones;
+
+    bool abrir() override
+    {
+        EXPECT_FALSE(abierto()) << "an operation started inside another";
+        bitacora_.anotar("abrir");
+        return PuertoPlaca::abrir();
+    }
     void escribir(const std::string& datos) override
     {
-        if (boton != nullptr) {
+        for (QWidget* boton : std::exchange(botones, {})) {
             const QPointF centro = QRectF(boton->rect()).center();
             for (QEvent::Type tipo : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
                 QCoreApplication::postEvent(boton, new QMouseEvent(tipo, centro, boton->mapToGlobal(centro),
                                                                    Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
-            boton = nullptr;
         }
         PuertoPlaca::escribir(datos);
     }
+
+private:
+    Bitacora& bitacora_;
 };
 
-TEST_F(VentanaTest, ClicksGivenWhileAnOperationRunsAreDroppedNotReplayed)
+TEST_F(VentanaTest, ClicksGivenWhileAnOperationRunsAreServedAfterItInTheirOrder)
 {
     Placa placa;
-    auto puerto = std::make_unique<PuertoImpaciente>(placa);
+    Bitacora bitacora;
+    auto puerto = std::make_unique<PuertoImpaciente>(placa, bitacora);
     PuertoImpaciente& impaciente = *puerto;
     VentanaForm1 ventana(Dependencias{std::move(puerto), std::make_unique<AvisosFalsos>(),
-                                      std::make_unique<RelojFijo>(), std::make_unique<DialogoFalso>()});
+                                      std::make_unique<RelojFijo>(), std::make_unique<DialogoFalso>(&bitacora)});
     ventana.show();
-    impaciente.boton = &ventana.boton(2);
+    bitacora.sucesos.clear();
+    impaciente.botones = {&ventana.boton(1), &ventana.boton(2)}; // GUARDAR, then LEER again
     QTest::mouseClick(&ventana.boton(2), Qt::LeftButton);
+    EXPECT_EQ(bitacora.sucesos, std::vector<std::string>{"abrir"});
     QCoreApplication::processEvents();
-    EXPECT_EQ(impaciente.aperturas(), 2) << "the start-up check and one read";
-    QTest::mouseClick(&ventana.boton(2), Qt::LeftButton);
-    EXPECT_EQ(impaciente.aperturas(), 3) << "the button works again afterwards";
+    EXPECT_EQ(bitacora.sucesos, (std::vector<std::string>{"abrir", "dialogo guardar", "abrir"}));
 }
 
 TEST_F(VentanaTest, AProgressBarWithNothingToCountShowsEmptyRatherThanBusy)

@@ -3,9 +3,9 @@
 #include "shell/qt/twips.h"
 
 #include <QAccessibleWidget>
-#include <QLabel>
 #include <QMouseEvent>
-#include <QVBoxLayout>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
 
 namespace eeprog {
 
@@ -39,7 +39,7 @@ QAccessibleInterface* fabricaaccesible(const QString&, QObject* objeto)
 } // namespace
 
 BotonImagen::BotonImagen(const QString& palabra, const QString& ayuda, const QPixmap& icono, QWidget* padre)
-    : QFrame(padre), imagen_(new QLabel(this))
+    : QFrame(padre), icono_(icono)
 {
     static const bool accesible = (QAccessible::installFactory(fabricaaccesible), true);
     Q_UNUSED(accesible);
@@ -47,11 +47,7 @@ BotonImagen::BotonImagen(const QString& palabra, const QString& ayuda, const QPi
     setAccessibleName(palabra);
     setAccessibleDescription(ayuda);
     setAutoFillBackground(true);
-    imagen_->setPixmap(icono);
-    imagen_->setAlignment(Qt::AlignCenter);
-    auto* disposicion = new QVBoxLayout(this);
-    disposicion->setContentsMargins(0, 0, 0, 0);
-    disposicion->addWidget(imagen_);
+    setFocusPolicy(Qt::TabFocus);
     dibujarapariencia();
 }
 
@@ -99,6 +95,31 @@ void BotonImagen::mouseReleaseEvent(QMouseEvent* evento)
     QFrame::mouseReleaseEvent(evento);
     if (evento->button() == Qt::LeftButton && rect().contains(evento->position().toPoint()))
         emit Click();
+}
+
+void BotonImagen::keyReleaseEvent(QKeyEvent* evento)
+{
+    if (evento->key() == Qt::Key_Space && !evento->isAutoRepeat())
+        click();
+    else
+        QFrame::keyReleaseEvent(evento);
+}
+
+// A disabled button shows its icon greyed, as the style greys any disabled picture.
+void BotonImagen::paintEvent(QPaintEvent* evento)
+{
+    QFrame::paintEvent(evento);
+    QPainter pintor(this);
+    QStyleOption opcion;
+    opcion.initFrom(this);
+    const QPixmap dibujo = isEnabled() ? icono_ : style()->generatedIconPixmap(QIcon::Disabled, icono_, &opcion);
+    style()->drawItemPixmap(&pintor, contentsRect(), Qt::AlignCenter, dibujo);
+    if (hasFocus()) {
+        QStyleOptionFocusRect foco;
+        foco.initFrom(this);
+        foco.rect = contentsRect().adjusted(1, 1, -1, -1);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &foco, &pintor, this);
+    }
 }
 
 } // namespace eeprog

@@ -4,13 +4,13 @@
 
 #include <QFrame>
 
-class QLabel;
-
 namespace eeprog {
 
 // A picture button of the command row: a framed square holding its 48 x 48 icon, whose
 // lower part shows the word. At rest it lies flat with a thin border; while its operation
-// runs it stands out. Assistive technology sees a push button named by its word.
+// runs it stands out. It takes the focus from the keyboard alone, by Tab, shows it with a
+// dotted rectangle, and Space presses it then, as a push button. Assistive technology sees
+// a push button named by its word.
 class BotonImagen : public QFrame, public Boton {
     Q_OBJECT
 public:
@@ -29,11 +29,13 @@ signals:
 
 protected:
     void mouseReleaseEvent(QMouseEvent* evento) override;
+    void keyReleaseEvent(QKeyEvent* evento) override;
+    void paintEvent(QPaintEvent* evento) override;
 
 private:
     void dibujarapariencia();
 
-    QLabel* imagen_;
+    QPixmap icono_;
     Apariencia apariencia_ = Apariencia::plana;
 };
 

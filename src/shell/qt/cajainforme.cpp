@@ -3,6 +3,9 @@
 #include "shell/qt/twips.h"
 
 #include <QKeyEvent>
+#include <QScrollBar>
+
+#include <algorithm>
 
 namespace eeprog {
 
@@ -16,6 +19,7 @@ CajaInforme::CajaInforme(QWidget* padre) : QPlainTextEdit(padre)
     setLineWrapMode(QPlainTextEdit::WidgetWidth);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTabChangesFocus(true); // Tab goes on to the next control; a tab typed here would stay in every report
 }
 
 std::string CajaInforme::texto() const
@@ -23,14 +27,29 @@ std::string CajaInforme::texto() const
     return toPlainText().replace(QLatin1Char('\n'), QLatin1String("\r\n")).toStdString();
 }
 
-// Setting the whole text leaves the view at the top: the newest lines lie below the
-// visible part until the user scrolls, as nothing moves the view to them.
+// Nothing moves the view or the caret to a new line: they stay where they were, and
+// after more lines than the box shows, the newest lie below until the user scrolls.
+// A writer nearly always adds to the end, and only that part is put in then.
 void CajaInforme::ponertexto(const std::string& texto)
 {
-    setPlainText(QString::fromStdString(texto).replace(QLatin1String("\r\n"), QLatin1String("\n")));
-    // The newest line is the one to see.
-    moveCursor(QTextCursor::End);
-    ensureCursorVisible();
+    const QString nuevo = QString::fromStdString(texto).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    const QString viejo = toPlainText();
+    const int ancla = textCursor().anchor();
+    const int caret = textCursor().position();
+    const int arriba = verticalScrollBar()->value();
+    if (nuevo.startsWith(viejo)) {
+        QTextCursor final(document());
+        final.movePosition(QTextCursor::End);
+        final.insertText(nuevo.mid(viejo.size()));
+    } else {
+        setPlainText(nuevo);
+    }
+    QTextCursor vuelta(document());
+    const int ultimo = static_cast<int>(nuevo.size());
+    vuelta.setPosition(std::min(ancla, ultimo));
+    vuelta.setPosition(std::min(caret, ultimo), QTextCursor::KeepAnchor);
+    setTextCursor(vuelta);
+    verticalScrollBar()->setValue(arriba);
 }
 
 void CajaInforme::ponercolor(Color fondo)

@@ -30,8 +30,6 @@ Rejillas::Rejillas(Cuadriculas& cuadriculas, QWidget* ventana)
     fghex_ = rejilla(cuadriculas.fghex, VistaRejilla::Letras::texto, texto, "fghex", rectangulo(lugarfghex), ventana);
     fgascii_ = rejilla(cuadriculas.fgascii, VistaRejilla::Letras::glifos, glifos, "fgascii", rectangulo(lugarfgascii),
                        ventana);
-    QWidget::setTabOrder(fgascii_, fghex_);
-    QWidget::setTabOrder(fghex_, fgdir_);
 }
 
 } // namespace eeprog

@@ -2,7 +2,6 @@
 
 #include "shell/qt/barra.h"
 #include "shell/qt/barraestado.h"
-#include "shell/qt/bloqueo.h"
 #include "shell/qt/botonimagen.h"
 #include "shell/qt/cajainforme.h"
 #include "shell/qt/cajamensajes.h"
@@ -120,9 +119,11 @@ void VentanaForm1::crearcontroles(QWidget* lienzo)
     crearbotones(lienzo);
     txtinforme_ = new CajaInforme(lienzo);
     txtinforme_->setGeometry(rectangulo(120, 960, 8775, 735));
+    txtinforme_->setObjectName(QStringLiteral("txtinforme"));
     txtinforme_->setAccessibleName(QStringLiteral("txtinforme"));
     rejillas_ = std::make_unique<Rejillas>(cuadriculas_, lienzo);
     crearcajas(lienzo);
+    ordenartabulacion();
     ProgressBar1_ = new Barra(lienzo);
     ProgressBar1_->setGeometry(rectangulo(120, 5640, 8655, 255));
     ProgressBar1_->setToolTip(QStringLiteral("Barra que muestra el progreso del proceso que se haya elegido"));
@@ -149,6 +150,21 @@ void VentanaForm1::crearcajas(QWidget* lienzo)
     txtcelda_ = caja(VistaCaja::Letras::glifos, terminal(12), "txtcelda", lienzo);
 }
 
+// Tab runs through the grids, the log and the buttons, in that order. The overlay boxes
+// hold their places in it but take the focus only from the program and the mouse, so Tab
+// passes them by, and goes on from each to the control behind its place. A disabled
+// EDITADO is passed by too.
+void VentanaForm1::ordenartabulacion()
+{
+    const Rejillas& r = *rejillas_;
+    std::vector<QWidget*> orden{&r.fgascii(), &r.fghex(), txtcelda_, &r.fgdir(), txtinforme_};
+    orden.insert(orden.end(), botones_.begin(), botones_.end() - 1);
+    orden.push_back(HEXcelda_);
+    orden.push_back(botones_.back());
+    for (std::size_t i = 1; i < orden.size(); ++i)
+        QWidget::setTabOrder(orden[i - 1], orden[i]);
+}
+
 void VentanaForm1::conectareditores()
 {
     Edicion& edicion = logica_->edicion();
@@ -162,18 +178,16 @@ void VentanaForm1::conectareditores()
     txtcelda_->Change = [this] { editorascii_->txtcelda_Change(); };
 }
 
-// The device operations hold the window from their first byte to their last.
+// A device operation holds the window from its first byte to its last: nothing in it serves
+// the event loop, so the clicks and keys given meanwhile wait in the platform's queue and
+// are served after it, in their order. A second operation asked for during the first starts
+// when the first is over, never inside it.
 void VentanaForm1::prepararordenes()
 {
     Form1& f = *logica_;
-    ordenes_ = {[&f] { f.abrir_Click(); },
-                [&f] { f.guardar_Click(); },
-                [&f] { bloquearentrada([&f] { f.leer_Click(); }); },
-                [&f] { f.borrar_Click(); },
-                [&f] { bloquearentrada([&f] { f.grabar_Click(); }); },
-                [&f] { bloquearentrada([&f] { f.verificar_Click(); }); },
-                [&f] { f.edit_Click(); },
-                [&f] { bloquearentrada([&f] { f.editado_Click(); }); }};
+    ordenes_ = {[&f] { f.abrir_Click(); },  [&f] { f.guardar_Click(); }, [&f] { f.leer_Click(); },
+                [&f] { f.borrar_Click(); }, [&f] { f.grabar_Click(); },  [&f] { f.verificar_Click(); },
+                [&f] { f.edit_Click(); },   [&f] { f.editado_Click(); }};
 }
 
 void VentanaForm1::conectarbotones()

@@ -85,6 +85,7 @@ private:
     void prepararordenes();
     void conectarbotones();
     void crearcajas(QWidget* lienzo);
+    void ordenartabulacion();
     void conectareditores();
     void dimensionar();
     Controles controles();

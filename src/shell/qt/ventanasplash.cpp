@@ -1,6 +1,7 @@
 #include "shell/qt/ventanasplash.h"
 
 #include "shell/qt/letras.h"
+#include "shell/qt/teclas.h"
 #include "shell/qt/twips.h"
 
 #include <QGuiApplication>
@@ -35,14 +36,14 @@ VentanaSplash::VentanaSplash(std::function<void()> mostrarForm1, QWidget* padre)
 }
 
 // The texts take no mouse: a button let go over them does nothing, and does not reach
-// the splash behind them either. A label grows to the width of its text, since the font
-// that stands in for Terminal is wider than the label was drawn for.
+// the splash behind them either. Each label keeps its own width, so that the surface
+// left to close the splash is the same whatever the font; the font that stands in for
+// Terminal is wider, and cuts the end of the longer text.
 QLabel* VentanaSplash::etiqueta(const char* texto, QRect lugar)
 {
     auto* nueva = new QLabel(QString::fromUtf8(texto), this);
     nueva->setFont(terminal(9));
     nueva->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    lugar.setWidth(std::max(lugar.width(), nueva->sizeHint().width()));
     nueva->setGeometry(lugar);
     QPalette paleta = nueva->palette();
     paleta.setColor(QPalette::Window, paleta.color(QPalette::ButtonText));
@@ -65,7 +66,7 @@ void VentanaSplash::Timer1_Timer()
 
 void VentanaSplash::keyPressEvent(QKeyEvent* evento)
 {
-    if (evento->text().isEmpty() || descargada_) {
+    if (!caracterdetecla(*evento) || descargada_) {
         QWidget::keyPressEvent(evento);
         return;
     }

@@ -1,6 +1,7 @@
 #include "shell/qt/vistacaja.h"
 
 #include "editor/glifos.h"
+#include "shell/qt/teclas.h"
 #include "shell/qt/twips.h"
 
 #include <QKeyEvent>
@@ -20,6 +21,8 @@ VistaCaja::VistaCaja(Letras letras, QWidget* padre) : QLineEdit(padre), letras_(
     setFocusPolicy(Qt::ClickFocus);
     setFrame(false);
     setAutoFillBackground(true);
+    setAcceptDrops(false);
+    setContextMenuPolicy(Qt::NoContextMenu); // its entries would paste and undo
     hide();
     connect(this, &QLineEdit::textChanged, this, [this] {
         if (Change)
@@ -28,11 +31,11 @@ VistaCaja::VistaCaja(Letras letras, QWidget* padre) : QLineEdit(padre), letras_(
 }
 
 // Enter, Escape and Backspace come as control characters, which are their codes as they are.
-int VistaCaja::codigo(QChar letra) const
+int VistaCaja::codigo(char32_t letra) const
 {
-    if (letras_ == Letras::glifos && letra.unicode() >= 32)
-        return codigode(letra.unicode());
-    return letra.unicode();
+    if (letras_ == Letras::glifos && letra >= 32)
+        return codigode(letra);
+    return static_cast<int>(letra);
 }
 
 QString VistaCaja::mostrar(const std::string& bytes) const
@@ -51,7 +54,7 @@ QString VistaCaja::mostrar(const std::string& bytes) const
 std::string VistaCaja::Text() const
 {
     std::string bytes;
-    for (QChar letra : text()) {
+    for (char32_t letra : text().toUcs4()) {
         const int c = codigo(letra);
         bytes += static_cast<char>(c < 0 ? '?' : c);
     }
@@ -107,28 +110,57 @@ bool VistaCaja::event(QEvent* evento)
 // do what they do in any box: with the caret at the start, nothing.
 void VistaCaja::keyPressEvent(QKeyEvent* evento)
 {
-    const QString texto = evento->text();
-    if (texto.size() != 1 || (evento->modifiers() & Qt::ControlModifier)) {
-        QLineEdit::keyPressEvent(evento);
-        return;
-    }
-    int tecla = codigo(texto.front());
-    if (tecla < 0) {
+    if (evento->matches(QKeySequence::Paste) || evento->matches(QKeySequence::Undo) ||
+        evento->matches(QKeySequence::Redo)) {
         evento->accept();
         return;
     }
+    // Ctrl keys are the menu's shortcuts or the box's own editing, never characters.
+    const bool ctrl = evento->modifiers() & (Qt::ControlModifier | Qt::MetaModifier);
+    const std::optional<char32_t> letra = ctrl ? std::nullopt : caracterdetecla(*evento);
+    if (!letra) {
+        QLineEdit::keyPressEvent(evento);
+        return;
+    }
+    evento->accept();
+    const int tecla = pulsar(*letra);
+    if (tecla == enter || tecla == escape || tecla == retroceso)
+        QLineEdit::keyPressEvent(evento);
+}
+
+// A character composed on the keyboard (a dead key, then a vowel) is one key press, as a
+// typed one is. What is still being composed is not shown.
+void VistaCaja::inputMethodEvent(QInputMethodEvent* evento)
+{
+    for (char32_t letra : evento->commitString().toUcs4())
+        if (letra >= 32)
+            pulsar(letra);
+    evento->accept();
+}
+
+// The middle button pastes the desktop's selection in a plain box.
+void VistaCaja::mouseReleaseEvent(QMouseEvent* evento)
+{
+    if (evento->button() == Qt::MiddleButton) {
+        evento->accept();
+        return;
+    }
+    QLineEdit::mouseReleaseEvent(evento);
+}
+
+// Offers a character to KeyPress and, unless the handler cancels it or makes it a control
+// code, puts it in at the caret. A character that the box's bytes cannot hold is no key
+// at all. Gives the code that KeyPress left.
+int VistaCaja::pulsar(char32_t letra)
+{
+    int tecla = codigo(letra);
+    if (tecla < 0)
+        return 0;
     if (KeyPress)
         KeyPress(tecla);
-    if (tecla == 0) {
-        evento->accept();
-        return;
-    }
-    if (tecla == enter || tecla == escape || tecla == retroceso) {
-        QLineEdit::keyPressEvent(evento);
-        return;
-    }
-    insert(mostrar(std::string(1, static_cast<char>(tecla))));
-    evento->accept();
+    if (tecla >= 32)
+        insert(mostrar(std::string(1, static_cast<char>(tecla))));
+    return tecla;
 }
 
 } // namespace eeprog

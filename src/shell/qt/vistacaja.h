@@ -8,7 +8,9 @@ namespace eeprog {
 
 // The overlay box of a cell editor. A character key is offered to KeyPress before it
 // has any effect; unless the handler cancels it, it is then put in at the caret. Keys
-// that make no character (arrows, Home, End, Delete) act on the box's text alone.
+// that make no character (arrows, Home, End, Delete) act on the box's text alone. No
+// character reaches the text any other way: a composed one is a key press like any
+// other, and paste, undo, redo and drops do nothing.
 class VistaCaja : public QLineEdit, public CajaCelda {
 public:
     enum class Letras { texto, glifos };
@@ -27,9 +29,12 @@ public:
 protected:
     bool event(QEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
+    void inputMethodEvent(QInputMethodEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
 
 private:
-    int codigo(QChar letra) const;
+    int pulsar(char32_t letra);
+    int codigo(char32_t letra) const;
     QString mostrar(const std::string& bytes) const;
 
     Letras letras_;
