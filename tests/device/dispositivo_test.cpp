@@ -1,214 +1,165 @@
-#include "banco.h"
 #include "chipprueba.h"
 #include "device/grabacion.h"
+#include "device/grabaredit.h"
 #include "device/lectura.h"
 #include "device/verificacion.h"
+#include "pantallafalsa.h"
+#include "puertoplaca.h"
 #include "records/apertura.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
-#include <functional>
-#include <memory>
-#include <numeric>
 
 namespace eeprog {
 namespace {
 
 using namespace prueba;
+using namespace std::string_literals;
 
-const std::string ejemplo = ":0300100041424327\r\n:00000001FF\r\n";
+// The board in the same process, the port open; the bitacora gets panel 1's texts.
+struct Banco {
+    explicit Banco(OpcionesPlaca opciones = {}) : placa(opciones) { enlace.serial(); }
+    PantallaOperacion pantalla() { return {paneles, barra, informe}; }
 
-std::unique_ptr<Registros> registrosde(const std::string& texto)
+    Placa placa;
+    PuertoPlaca puerto{placa};
+    Enlace enlace{puerto};
+    Bitacora bitacora;
+    PanelesFalsos paneles{&bitacora};
+    BarraFalsa barra;
+    CajaFalsa caja;
+    RelojFijo reloj;
+    Informe informe{caja, reloj};
+};
+
+Registros registrosde(const std::string& texto)
 {
-    auto registros = std::make_unique<Registros>();
+    Registros registros;
     AvisosFalsos avisos;
-    ponerenvector({texto, "", ""}, *registros, avisos);
+    ponerenvector({texto, "", ""}, registros, avisos);
     return registros;
 }
 
-std::vector<double> serie(int desde, int hasta)
+// A frame built by hand: the order, the count, the address high byte first, type 0, the data.
+std::string marco(char orden, int cuenta, int direccion, const std::string& datos)
 {
-    std::vector<double> valores(static_cast<std::size_t>(hasta - desde + 1));
-    std::iota(valores.begin(), valores.end(), desde);
-    return valores;
+    return std::string{orden, char(cuenta), char(direccion >> 8), char(direccion & 0xFF), '\0'} + datos;
 }
 
-std::string enviando(const std::string& hex)
-{
-    return "Enviando..." + hex + "H";
-}
-
-std::string malrecibido(const std::string& hex)
-{
-    return "El dato transmitido " + hex + " no se ha recibido correctamente";
-}
-
-TEST(Lectura, SendsOneMoreCheckThenPacedFramesCountingEveryByte)
+// One more check, then 512 read frames paced by the bytes 0 to 15; each block becomes 16
+// entries of vectorleido and one Intel HEX line, its checksum made here with printf.
+TEST(Lectura, ReadsTheWholeChipIntoVectorleidoAndIntelHexLinesWithTheirChecksums)
 {
     Banco banco;
-    auto leido = std::make_unique<Leido>();
-    lectura(banco.enlace, *leido, banco.pantalla());
-    const std::string pasos("\x00\x01\x02\x03\x04\x05\x06\x07\x08\x09\x0A\x0B\x0C\x0D\x0E\x0F", 16);
-    EXPECT_EQ(banco.trafico().substr(0, 43),
-              std::string("cr\x10\x00\x00\x00", 6) + pasos + std::string("r\x10\x00\x10\x00", 5) + pasos);
-    std::string esperado = "c";
+    azar(banco.placa.chip(), 7);
+    Leido leido;
+    lectura(banco.enlace, leido, banco.pantalla());
+
+    std::string trafico = "c";
     for (int direccion = 0; direccion < 8192; direccion += 16)
-        esperado += "r\x10" + std::string{char(direccion >> 8), char(direccion & 0xFF), '\0'} + pasos;
-    EXPECT_EQ(banco.puerto.enviados().size(), 10754u);
-    EXPECT_EQ(banco.trafico(), esperado);
-
-    std::vector<std::string> cuentas;
+        trafico += marco('r', 16, direccion, "\0\1\2\3\4\5\6\7\10\11\12\13\14\15\16\17"s); // paced by 0 to 15
+    EXPECT_EQ(banco.puerto.enviados(), trafico);
+    std::vector<std::string> panel;
     for (int k = 1; k <= 8192; ++k)
-        cuentas.push_back(std::to_string(k) + "  Bytes leidos");
-    cuentas.push_back("8192  Bytes leidos = 2000H");
-    EXPECT_EQ(banco.panel1(), cuentas);
+        panel.push_back("panel 1 " + std::to_string(k) + "  Bytes leidos");
+    panel.push_back("panel 1 8192  Bytes leidos = 2000H");
+    EXPECT_EQ(banco.bitacora.sucesos, panel);
     EXPECT_EQ(banco.barra.tope, 512);
-    EXPECT_EQ(banco.barra.valores, serie(0, 511));
+    EXPECT_EQ(banco.barra.actual, 511);
+    EXPECT_EQ(leido.textoleido, lineashex(banco.placa.chip()));
+    EXPECT_TRUE(std::equal(banco.placa.chip().begin(), banco.placa.chip().end(), leido.vectorleido.begin()));
 }
 
-TEST(Lectura, EachBlockBecomesOneDataLineWithItsChecksumAndTheBytesGoToVectorleido)
+// The board's echo is the only check: a wrong one (marked below) shows in panel 1 right
+// after its byte, and the run goes on. A silent board's echoes all time out.
+TEST(Grabacion, SendsTheRecordAsAWriteFrameAndShowsEachByteAndEachWrongEcho)
 {
-    struct Caso {
-        OpcionesPlaca opciones;
-        std::function<void(Chip&)> preparar;
-        std::size_t linea;
-        std::string esperado;
-    };
-    const std::vector<Caso> casos{
-        {{},
-         [](Chip& c) { std::iota(c.begin() + 0x120, c.begin() + 0x130, 0); },
-         18,
-         ":10012000000102030405060708090A0B0C0D0E0F57\r\n"},
-        {{}, [](Chip&) {}, 0, ":10000000FFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFF00\r\n"},
-        {{}, [](Chip& c) { c.fill(0); }, 0, ":1000000000000000000000000000000000000000F0\r\n"},
-        {{}, [](Chip& c) { azar(c, 7); }, 511, ":101FF000"},
-        // A board silent after the check reads as the "E" of "Error" to the end.
-        {{.silenciosa = true}, [](Chip& c) { c.fill(0x45); }, 0, ":1000000045454545454545454545454545454545A0\r\n"},
-    };
-    for (const Caso& caso : casos) {
-        Banco banco(caso.opciones);
-        Chip leible = banco.placa.chip();
-        caso.preparar(leible);
-        if (!caso.opciones.silenciosa)
-            banco.placa.chip() = leible;
-        auto leido = std::make_unique<Leido>();
-        leido->vectorleido[8192] = 7;
-        lectura(banco.enlace, *leido, banco.pantalla());
-        const std::string& texto = leido->textoleido;
-        EXPECT_EQ(texto.size(), 23040u);
-        EXPECT_EQ(texto.substr(caso.linea * 45, caso.esperado.size()), caso.esperado);
-        EXPECT_EQ(texto, lineashex(leible));
-        EXPECT_TRUE(std::equal(leible.begin(), leible.end(), leido->vectorleido.begin()));
-        EXPECT_EQ(leido->vectorleido[8192], 7);
-    }
-}
-
-TEST(Grabacion, EachByteSentShowsInPanelOneAndAWrongEchoRightAfterIt)
-{
-    struct Caso {
-        OpcionesPlaca opciones;
-        std::string archivo;
-        std::string datos; // the data bytes of its one record
+    const std::tuple<const char*, OpcionesPlaca, std::string> casos[]{
+        {"SecondDataByteEchoedWrong", {.ecoerroneo = 2}, "     ! "}, {"SilentBoard", {.silenciosa = true}, "!!!!!!!"}};
+    for (const auto& [nombre, opciones, malos] : casos) { // malos: a mark for each wrong echo
+        Banco banco(opciones);
+        grabacion(banco.enlace, registrosde(":0300100041424327\r\n:00000001FF\r\n"), banco.pantalla());
         std::vector<std::string> panel;
-        std::string chip; // 0x10 to 0x12 afterwards
-    };
-    const std::vector<Caso> casos{
-        {{},
-         ejemplo,
-         "ABC",
-         {enviando("3"), enviando("0"), enviando("10"), enviando("0"), enviando("41"), enviando("42"), enviando("43")},
-         "ABC"},
-        {{.ecoerroneo = 2},
-         ejemplo,
-         "ABC",
-         {enviando("3"), enviando("0"), enviando("10"), enviando("0"), enviando("41"), enviando("42"),
-          malrecibido("42"), enviando("43")},
-         "ACC"},
-        // Every echo times out and reads as 0x45, so only a 0x45 passes.
-        {{.silenciosa = true},
-         ":0300100041454324\r\n:00000001FF\r\n",
-         "AEC",
-         {enviando("3"), malrecibido("3"), enviando("0"), malrecibido("0"), enviando("10"), malrecibido("10"),
-          enviando("0"), malrecibido("0"), enviando("41"), malrecibido("41"), enviando("45"), enviando("43"),
-          malrecibido("43")},
-         "\xFF\xFF\xFF"},
-    };
-    for (const Caso& caso : casos) {
-        Banco banco(caso.opciones);
-        grabacion(banco.enlace, *registrosde(caso.archivo), banco.pantalla());
-        EXPECT_EQ(banco.trafico(), std::string("w\x03\x00\x10\x00", 5) + caso.datos);
-        EXPECT_EQ(banco.panel1(), caso.panel);
-        EXPECT_EQ(std::string(banco.placa.chip().begin() + 0x10, banco.placa.chip().begin() + 0x13), caso.chip);
-        EXPECT_EQ(banco.barra.tope, 11);
-        EXPECT_EQ(banco.barra.valores, serie(5, 11));
+        for (int i = 0; const char* hex : {"3", "0", "10", "0", "41", "42", "43"}) {
+            panel.push_back("panel 1 Enviando..."s + hex + "H");
+            if (malos[i++] == '!')
+                panel.push_back("panel 1 El dato transmitido "s + hex + " no se ha recibido correctamente");
+        }
+        EXPECT_EQ(banco.puerto.enviados(), marco('w', 3, 0x10, "ABC")) << nombre;
+        EXPECT_EQ(banco.bitacora.sucesos, panel) << nombre;
+        EXPECT_EQ(banco.barra.tope, 11) << nombre;
+        EXPECT_EQ(banco.barra.actual, 11) << nombre;
     }
 }
 
-// An S1 line with a count below 3 gives a negative count. The walk skips it by that count,
-// which lands on the next record only when the line carries no checksum pair; with one it
-// lands on the line's end entry, a 0, and the walk ends there, as the display's does.
+// An S1 line with a count below 3 gives a negative count: the walk skips the record by it.
 TEST(Grabacion, AnS1LineTooShortForItsAddressSendsNothingForIt)
 {
-    const std::vector<std::pair<std::string, std::string>> casos{
-        {"S1020010\r\nS1050020AABB75\r\nS9030000FC\r\n", std::string("w\x02\x00\x20\x00\xAA\xBB", 7)},
-        {"S1020010EB\r\nS1050020AABB75\r\nS9030000FC\r\n", ""},
-    };
-    for (const auto& [archivo, trafico] : casos) {
-        Banco banco;
-        grabacion(banco.enlace, *registrosde(archivo), banco.pantalla());
-        EXPECT_EQ(banco.trafico(), trafico) << archivo;
-        EXPECT_EQ(banco.placa.chip()[0x10], 0xFF);
-    }
+    Banco banco;
+    grabacion(banco.enlace, registrosde("S1020010\r\nS1050020AABB75\r\nS9030000FC\r\n"), banco.pantalla());
+    EXPECT_EQ(banco.puerto.enviados(), marco('w', 2, 0x20, "\xAA\xBB"));
 }
 
-// The echoes of count, address and type are compared too, under addresses 4 below the
-// record's; every difference goes to panel 1 and to the log, and the run goes on.
-TEST(Verificacion, EveryDifferenceIsReportedWithItsAddressHeaderPassesIncluded)
+// Each difference goes to panel 1 and to the log, with its address, and the run goes on.
+void diferencias(const Banco& banco, const std::vector<std::string>& esperadas) // address, expected, read
 {
-    struct Caso {
-        OpcionesPlaca opciones;
-        std::string archivo;
-        std::vector<std::pair<int, unsigned char>> chip;
-        std::string trafico;                  // after the frame's check
-        std::vector<std::string> diferencias; // address, expected, read
-    };
-    const std::string leer = std::string("cr\x03\x00\x10\x00", 6) + "ABC";
-    const std::vector<Caso> casos{
-        {{}, ejemplo, {{0x10, 0x41}, {0x11, 0x5A}, {0x12, 0x43}}, leer, {"0011 42 5A"}},
-        {{}, ejemplo, {{0x10, 0x41}, {0x11, 0x42}, {0x12, 0x43}}, leer, {}},
-        {{},
-         ":021F00000A0CC9\r\n:00000001FF\r\n",
-         {{0x1F00, 0x0B}, {0x1F01, 0x0D}},
-         std::string("cr\x02\x1F\x00\x00\x0A\x0C", 8),
-         {"1F00 0A 0B", "1F01 0C 0D"}},
-        {{.silenciosa = true},
-         ":0300000041454334\r\n:00000001FF\r\n",
-         {},
-         std::string("cr\x03\x00\x00\x00", 6) + "AEC",
-         {"FFFC 03 45", "FFFD 00 45", "FFFE 00 45", "FFFF 00 45", "0000 41 45", "0002 43 45"}},
-        {{}, "", {}, "c", {}},
-    };
-    for (const Caso& caso : casos) {
-        Banco banco(caso.opciones);
-        for (const auto& [direccion, valor] : caso.chip)
-            banco.placa.chip()[static_cast<std::size_t>(direccion)] = valor;
-        auto registros = registrosde(caso.archivo);
-        verificacion(banco.enlace, *registros, banco.pantalla());
-        std::vector<std::string> panel;
-        std::string log;
-        for (const std::string& d : caso.diferencias) {
-            const std::string texto =
-                "Direccion = " + d.substr(0, 4) + "  Buffer = " + d.substr(5, 2) + "   Leido = " + d.substr(8, 2);
-            panel.push_back("error.. " + texto);
-            log += "                 Error.. " + texto + "\r\n";
-        }
-        EXPECT_EQ(banco.trafico(), caso.trafico) << caso.archivo;
-        EXPECT_EQ(banco.panel1(), panel);
-        EXPECT_EQ(banco.caja.contenido, log);
-        EXPECT_EQ(banco.barra.tope, registros->totalvector);
-        EXPECT_EQ(banco.barra.actual, registros->totalvector);
+    std::vector<std::string> panel;
+    std::string log;
+    for (const std::string& d : esperadas) {
+        const std::string texto =
+            "Direccion = " + d.substr(0, 4) + "  Buffer = " + d.substr(5, 2) + "   Leido = " + d.substr(8, 2);
+        panel.push_back("panel 1 error.. " + texto);
+        log += "                 Error.. " + texto + "\r\n";
     }
+    EXPECT_EQ(banco.bitacora.sucesos, panel);
+    EXPECT_EQ(banco.caja.contenido, log);
+}
+
+TEST(Verificacion, OffersEachExpectedByteAndReportsEveryDifferenceWithItsAddressHeadersIncluded)
+{
+    Banco banco;
+    for (auto [direccion, valor] : {std::pair{0x10, 'A'}, {0x11, 'Z'}, {0x12, 'C'}, {0x1F00, '\x0B'}, {0x1F01, '\x0D'}})
+        banco.placa.chip()[direccion] = valor;
+    verificacion(banco.enlace, registrosde(":0300100041424327\r\n:021F00000A0CC9\r\n:00000001FF\r\n"),
+                 banco.pantalla());
+    EXPECT_EQ(banco.puerto.enviados(), "c" + marco('r', 3, 0x10, "ABC") + marco('r', 2, 0x1F00, "\x0A\x0C"));
+    diferencias(banco, {"0011 42 5A", "1F00 0A 0B", "1F01 0C 0D"});
+    EXPECT_EQ(banco.barra.tope, 17);
+    EXPECT_EQ(banco.barra.actual, 17);
+
+    // The echoes of count, address and type are compared too, under the 4 addresses below
+    // the record's, which wrap below 0; a time-out reads as 0x45, so the "E" passes.
+    Banco callada({.silenciosa = true}); // it answers the check, then nothing
+    verificacion(callada.enlace, registrosde(":0300000041454334\r\n:00000001FF\r\n"), callada.pantalla());
+    diferencias(callada, {"FFFC 03 45", "FFFD 00 45", "FFFE 00 45", "FFFF 00 45", "0000 41 45", "0002 43 45"});
+}
+
+// Rows 0 to the highest edited go out whether edited or not, each to the address of its
+// label (row 512 as 0x2000: the board folds it onto the chip) and each byte as its fgascii
+// cell stands, fghex aside. A cleared cell still owes the frame its byte and goes out as
+// the erased value. Panel 1 shows each byte by its glyph; the bar counts the bytes.
+TEST(Grabaredit, SendsEveryRowUpToTheHighestEditedAndTheLogCountsItsBytes)
+{
+    Banco banco;
+    Cuadriculas cuadriculas;
+    dibujareditor(cuadriculas);
+    cuadriculas.fgascii.TextMatrix(0, 1, "");
+    cuadriculas.fgascii.TextMatrix(2, 0, "A");
+    grabaredit(banco.enlace, cuadriculas, 600, banco.pantalla());
+
+    const std::string borrado(16, '\xFF');
+    std::string trafico;
+    for (int fila = 0; fila <= 600; ++fila)
+        trafico += marco('w', 16, fila * 16, fila == 2 ? "A" + borrado.substr(1) : borrado);
+    EXPECT_EQ(banco.puerto.enviados(), trafico);
+    std::vector<std::string> panel(9616, "panel 1 Enviando... \u00A0");
+    panel[1] = "panel 1 Enviando... ";
+    panel[32] = "panel 1 Enviando... A";
+    EXPECT_EQ(banco.bitacora.sucesos, panel);
+    EXPECT_EQ(banco.barra.tope, 9616);
+    EXPECT_EQ(banco.barra.actual, 9616);
+    // The log's count takes an edit of row 0 alone for none, as filaeditada starts at 0.
+    EXPECT_EQ(bytesgrabados(0), 0);
+    EXPECT_EQ(bytesgrabados(600), 9616);
 }
 
 } // namespace

@@ -8,14 +8,12 @@ namespace eeprog::prueba {
 // offscreen platform, so the tests need no display; QT_QPA_PLATFORM=xcb shows them.
 inline void crearaplicacion()
 {
-    if (QApplication::instance())
-        return;
+    static int argc = 1;
+    static char* argv[] = {const_cast<char*>("eeprog_test"), nullptr};
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int argc = 1;
-    static char nombre[] = "eeprog_test";
-    static char* argv[] = {nombre, nullptr};
-    new QApplication(argc, argv);
+    if (!QApplication::instance())
+        new QApplication(argc, argv);
 }
 
 } // namespace eeprog::prueba

@@ -22,18 +22,13 @@ inline void azar(Chip& chip, unsigned semilla)
 inline std::string lineashex(const Chip& chip)
 {
     std::string texto;
-    char pieza[8];
-    for (int direccion = 0; direccion < 8192; direccion += 16) {
+    char pieza[16];
+    for (std::size_t direccion = 0; direccion < chip.size(); direccion += 16) {
         unsigned suma = 0x10 + (direccion >> 8) + (direccion & 0xFF);
-        std::snprintf(pieza, sizeof pieza, ":10%04X", direccion);
-        texto += pieza + std::string("00");
-        for (int k = 0; k < 16; ++k) {
-            suma += chip[static_cast<std::size_t>(direccion + k)];
-            std::snprintf(pieza, sizeof pieza, "%02X", chip[static_cast<std::size_t>(direccion + k)]);
-            texto += pieza;
-        }
-        std::snprintf(pieza, sizeof pieza, "%02X\r\n", (0x100 - suma % 0x100) % 0x100);
-        texto += pieza;
+        texto.append(pieza, std::snprintf(pieza, sizeof pieza, ":10%04zX00", direccion));
+        for (std::size_t k = direccion; k < direccion + 16; suma += chip[k++])
+            texto.append(pieza, std::snprintf(pieza, sizeof pieza, "%02X", chip[k]));
+        texto.append(pieza, std::snprintf(pieza, sizeof pieza, "%02X\r\n", (0x100 - suma % 0x100) % 0x100));
     }
     return texto;
 }

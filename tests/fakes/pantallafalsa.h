@@ -12,8 +12,6 @@
 
 #include <functional>
 #include <map>
-#include <string>
-#include <vector>
 
 // Recording stand-ins for the window's controls, the message box, the clock and the skin.
 namespace eeprog::prueba {
@@ -23,148 +21,75 @@ inline std::string textocolor(Color c)
     return std::to_string(c.rojo) + "," + std::to_string(c.verde) + "," + std::to_string(c.azul);
 }
 
-class CajaFalsa : public CajaTexto {
-public:
-    explicit CajaFalsa(Bitacora* bitacora = nullptr) : bitacora_(bitacora) {}
+struct CajaFalsa : CajaTexto, Grabador {
+    using Grabador::Grabador;
     std::string contenido;
     Color fondo;
-
     std::string texto() const override { return contenido; }
-    void ponertexto(const std::string& texto) override
-    {
-        anotar(bitacora_, "informe " + texto);
-        contenido = texto;
-    }
-    void ponercolor(Color c) override
-    {
-        anotar(bitacora_, "informe color " + textocolor(c));
-        fondo = c;
-    }
-
-private:
-    Bitacora* bitacora_;
+    void ponertexto(const std::string& texto) override { contenido = anotar("informe " + texto, texto); }
+    void ponercolor(Color c) override { fondo = anotar("informe color " + textocolor(c), c); }
 };
 
-class PanelesFalsos : public Paneles {
-public:
-    explicit PanelesFalsos(Bitacora* bitacora = nullptr) : bitacora_(bitacora) {}
+struct PanelesFalsos : Paneles, Grabador {
+    using Grabador::Grabador;
     std::map<int, std::string> textos;
-
-    void panel(int numero, const std::string& texto) override
+    void panel(int n, const std::string& texto) override
     {
-        anotar(bitacora_, "panel " + std::to_string(numero) + " " + texto);
-        textos[numero] = texto;
+        textos[n] = anotar("panel " + std::to_string(n) + " " + texto, texto);
     }
-
-private:
-    Bitacora* bitacora_;
 };
 
-class BarraFalsa : public BarraProgreso {
-public:
-    double tope = 100;
-    double actual = 0;
+struct BarraFalsa : BarraProgreso {
+    double tope = 100, actual = 0;
     std::vector<double> valores; // every value set, in order
     void maximo(double v) override { tope = v; }
-    void valor(double v) override
-    {
-        actual = v;
-        valores.push_back(v);
-    }
+    void valor(double v) override { valores.push_back(actual = v); }
 };
 
-class AvisosFalsos : public Avisos {
-public:
-    explicit AvisosFalsos(Bitacora* bitacora = nullptr) : bitacora_(bitacora) {}
+struct AvisosFalsos : Avisos, Grabador {
+    using Grabador::Grabador;
     std::vector<Aviso> mostrados;
-    // Runs while the box "is on the screen", to look at the program's state then.
-    std::function<void()> almostrar;
-
+    std::function<void()> almostrar; // runs while the box "is on the screen"
     void mostrar(const Aviso& aviso) override
     {
-        anotar(bitacora_, "aviso " + aviso.titulo);
-        mostrados.push_back(aviso);
+        mostrados.push_back(anotar("aviso " + aviso.titulo, aviso));
         if (almostrar)
             almostrar();
     }
-
-private:
-    Bitacora* bitacora_;
 };
 
-class RelojFijo : public Reloj {
-public:
+struct RelojFijo : Reloj {
     std::string fecha() const override { return "23/11/2026"; }
     std::string hora() const override { return "10:11:12"; }
 };
 
-class SkinFalso : public Skin {
-public:
-    explicit SkinFalso(Bitacora* bitacora = nullptr) : bitacora_(bitacora) {}
+struct SkinFalso : Skin, Grabador {
+    using Grabador::Grabador;
     Color actual = colorinicial;
-    std::vector<Formulario> aplicados;
-    std::vector<std::string> cargados;
-
-    void cargar(const std::string& ruta) override
-    {
-        anotar(bitacora_, "skin cargar " + ruta);
-        cargados.push_back(ruta);
-    }
-    void aplicar(Formulario formulario) override
-    {
-        anotar(bitacora_, "skin aplicar");
-        aplicados.push_back(formulario);
-    }
+    void cargar(const std::string& ruta) override { anotar("skin cargar " + ruta); }
+    void aplicar(Formulario) override { anotar("skin aplicar"); }
     Color color() const override { return actual; }
-
-private:
-    Bitacora* bitacora_;
 };
 
 // The desktop's opener: it keeps the paths it was asked to open.
-class AbridorFalso : public Abridor {
-public:
-    explicit AbridorFalso(Bitacora* bitacora = nullptr) : bitacora_(bitacora) {}
+struct AbridorFalso : Abridor, Grabador {
+    using Grabador::Grabador;
     std::vector<std::string> abiertos;
-
-    void abrir(const std::string& ruta) override
-    {
-        anotar(bitacora_, "abrir " + ruta);
-        abiertos.push_back(ruta);
-    }
-
-private:
-    Bitacora* bitacora_;
+    void abrir(const std::string& ruta) override { abiertos.push_back(anotar("abrir " + ruta, ruta)); }
 };
 
-class BotonFalso : public Boton {
-public:
-    BotonFalso(std::string nombre = "boton", Bitacora* bitacora = nullptr)
-        : nombre_(std::move(nombre)), bitacora_(bitacora)
-    {}
+struct BotonFalso : Boton, Grabador {
+    BotonFalso(std::string nombre = "boton", Bitacora* bitacora = nullptr) : Grabador(bitacora), nombre(nombre) {}
+    std::string nombre;
     Apariencia apariencia = Apariencia::plana;
     Color fondo;
     bool habilitado = true;
-
     void ponerapariencia(Apariencia a) override
     {
-        anotar(bitacora_, nombre_ + (a == Apariencia::plana ? " plana" : " tridimensional"));
-        apariencia = a;
+        apariencia = anotar(nombre + (a == Apariencia::plana ? " plana" : " tridimensional"), a);
     }
-    void ponercolor(Color c) override
-    {
-        anotar(bitacora_, nombre_ + " color " + textocolor(c));
-        fondo = c;
-    }
-    void habilitar(bool h) override
-    {
-        anotar(bitacora_, nombre_ + (h ? " habilitado" : " deshabilitado"));
-        habilitado = h;
-    }
-
-private:
-    std::string nombre_;
-    Bitacora* bitacora_;
+    void ponercolor(Color c) override { fondo = anotar(nombre + " color " + textocolor(c), c); }
+    void habilitar(bool h) override { habilitado = anotar(nombre + (h ? " habilitado" : " deshabilitado"), h); }
 };
 
 } // namespace eeprog::prueba

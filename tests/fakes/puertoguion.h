@@ -4,81 +4,45 @@
 #include "link/puerto.h"
 
 #include <functional>
-#include <string>
-#include <vector>
 
 namespace eeprog::prueba {
 
 // A port that follows a script: bytes become readable at a given read, counted from the
 // port's first read. Time is counted in reads, so the tests need no clock.
-class PuertoGuion : public Puerto {
-public:
-    explicit PuertoGuion(Bitacora* bitacora = nullptr) : bitacora_(bitacora) {}
-
+struct PuertoGuion : Puerto, Grabador {
+    using Grabador::Grabador;
     // The bytes can be read from the given read on (1 is the next read).
-    void llegara(std::string datos, int enlalectura = 1)
-    {
-        pendientes_.push_back({lecturas + enlalectura, std::move(datos)});
-    }
-
+    void llegara(std::string datos, int enlalectura = 1) { pendientes.push_back({lecturas + enlalectura, datos}); }
     // Called with each text written to an open port, to script the board's answer.
     std::function<void(const std::string&)> alescribir;
 
-    bool abrible = true;
-    bool abiertoahora = false;
-    int lecturas = 0;
-    int esperas = 0;
-    int aperturas = 0;
+    bool abrible = true, abiertoahora = false;
+    int lecturas = 0, esperas = 0, aperturas = 0;
     std::string enviados;
+    std::vector<std::pair<int, std::string>> pendientes; // the read they arrive at, and the bytes
 
     bool abrir() override
     {
-        anotar(bitacora_, "abrir");
-        abiertoahora = abrible;
-        aperturas += abrible ? 1 : 0;
-        return abrible;
+        aperturas += abrible;
+        return abiertoahora = anotar("abrir", abrible);
     }
-    void cerrar() override
-    {
-        anotar(bitacora_, "cerrar");
-        abiertoahora = false;
-    }
+    void cerrar() override { abiertoahora = anotar("cerrar", false); }
     bool abierto() const override { return abiertoahora; }
     void escribir(const std::string& datos) override
     {
-        anotar(bitacora_, "escribir " + datos);
-        if (!abiertoahora)
-            return;
-        enviados += datos;
-        if (alescribir)
+        if (anotar("escribir " + datos, abiertoahora))
+            enviados += datos;
+        if (abiertoahora && alescribir)
             alescribir(datos);
     }
     std::string leer() override
     {
-        ++lecturas;
         std::string llegado;
-        std::erase_if(pendientes_, [&](const Llegada& l) {
-            if (l.lectura > lecturas)
-                return false;
-            llegado += l.datos;
-            return true;
-        });
-        anotar(bitacora_, "leer");
-        return llegado;
+        ++lecturas;
+        std::erase_if(pendientes, [&](const auto& p) { return p.first <= lecturas && (llegado += p.second, true); });
+        return anotar("leer", llegado);
     }
-    void esperar(int milisegundos) override
-    {
-        ++esperas;
-        anotar(bitacora_, "esperar " + std::to_string(milisegundos));
-    }
-
-private:
-    struct Llegada {
-        int lectura;
-        std::string datos;
-    };
-    Bitacora* bitacora_;
-    std::vector<Llegada> pendientes_;
+    void esperar(int milisegundos) override { esperas += anotar("esperar " + std::to_string(milisegundos), 1); }
 };
 
 } // namespace eeprog::prueba

@@ -1,4 +1,5 @@
-#include "link/enlace.h"
+#include "link/conexion.h"
+#include "pantallafalsa.h"
 #include "puertoguion.h"
 
 #include <gtest/gtest.h>
@@ -6,87 +7,106 @@
 namespace eeprog {
 namespace {
 
-using prueba::Bitacora;
-using prueba::PuertoGuion;
+using namespace prueba;
+using namespace std::string_literals;
 
 class EnlaceTest : public ::testing::Test {
 protected:
     Bitacora bitacora;
     PuertoGuion puerto{&bitacora};
     Enlace enlace{puerto};
-
-    void SetUp() override { enlace.serial(); }
+    CajaFalsa caja;
+    RelojFijo reloj;
+    Informe informe{caja, reloj};
+    PanelesFalsos paneles{&bitacora};
+    AvisosFalsos avisos{&bitacora};
+    SkinFalso skin;
+    BotonFalso boton{"leer", &bitacora};
+    Marco marco{enlace, {paneles, informe, avisos, skin}};
 };
 
-TEST_F(EnlaceTest, AReplyAlreadyInIsTakenAfterOneSleep)
+// The rows run in turn on one open link, so a reply that comes too late for one row is
+// still in the port for the next: the two sides then run one behind.
+TEST_F(EnlaceTest, AnExchangeSendsThenPausesAndReadsUntilAReplyOrAHundredReads)
 {
-    puerto.alescribir = [&](const std::string&) { puerto.llegara("c"); };
-    EXPECT_EQ(enlace.intercambio("c"), "c");
-    EXPECT_EQ(bitacora.sucesos, (std::vector<std::string>{"abrir", "escribir c", "esperar 1", "leer"}));
-}
-
-TEST_F(EnlaceTest, NoReplyGivesErrorAfterExactlyAHundredSleepsAndReads)
-{
-    EXPECT_EQ(enlace.intercambio("c"), "Error");
-    EXPECT_EQ(puerto.lecturas, 100);
-    EXPECT_EQ(puerto.esperas, 100);
-    // Each read comes after its own sleep, never two reads in a row.
-    for (std::size_t i = 2; i < bitacora.sucesos.size(); i += 2) {
-        EXPECT_EQ(bitacora.sucesos[i], "esperar 1");
-        EXPECT_EQ(bitacora.sucesos[i + 1], "leer");
+    const struct {
+        const char* nombre;
+        std::string llega, envia, respuesta; // llega: what arrives, at read enlalectura from now
+        int enlalectura, lecturas;           // lecturas: reads taken, each after a 1 ms pause
+    } casos[]{
+        {"ReplyAlreadyIn", "c", "c", "c", 1, 1},
+        {"NoReplyIsErrorAfterAHundredReads", "", "c", "Error", 1, 100},
+        {"ReplyAtTheHundredthRead", "x", "c", "x", 100, 100},
+        {"ReplyAtTheHundredAndFirstReadIsTooLate", "1", "a", "Error", 101, 100},
+        {"TheNextExchangeTakesTheLateReply", "2", "b", "1", 5, 1},
+        {"AndTheOneAfterItTakesTheNextReply", "", "c", "2", 1, 4},
+        {"TwoBytesAreOneReply", "cc", "c", "cc", 1, 1},
+        {"AByteZeroIsAReply", "\0"s, "\0"s, "\0"s, 3, 3},
+        {"AnEmptyTextSendsNothingAndWaitsOutItsTries", "", "", "Error", 1, 100},
+    };
+    enlace.serial();
+    for (const auto& caso : casos) {
+        puerto.llegara(caso.llega, caso.enlalectura);
+        bitacora.sucesos.clear();
+        EXPECT_EQ(enlace.intercambio(caso.envia), caso.respuesta) << caso.nombre;
+        std::vector<std::string> esperado{"escribir " + caso.envia};
+        for (int i = 0; i < caso.lecturas; ++i)
+            esperado.insert(esperado.end(), {"esperar 1", "leer"});
+        EXPECT_EQ(bitacora.sucesos, esperado) << caso.nombre;
     }
 }
 
-TEST_F(EnlaceTest, AReplyOnTheHundredthReadStillCounts)
+// The look of the pressed button, the check, panel 1, the operation with the port open,
+// the close, and the button's look again, each look with the skin's colour.
+TEST_F(EnlaceTest, ABoardThatAnswersLetsTheOperationRunWithThePortOpen)
 {
-    puerto.llegara("x", 100);
-    EXPECT_EQ(enlace.intercambio("c"), "x");
-    EXPECT_EQ(puerto.lecturas, 100);
+    puerto.alescribir = [&](const std::string& dato) { puerto.llegara(dato); };
+    marco.ejecutar(boton, palabras::leer, [&] { bitacora.anotar(puerto.abierto() ? "abierto" : "cerrado"); });
+    EXPECT_EQ(bitacora.sucesos,
+              (std::vector<std::string>{"leer tridimensional", "leer color 221,247,224", "abrir", "escribir c",
+                                        "esperar 1", "leer", "panel 1 C o n e c c i o n    E X I T O S A ...",
+                                        "abierto", "cerrar", "leer plana", "leer color 221,247,224"}));
 }
 
-TEST_F(EnlaceTest, ALateReplyIsTakenByTheNextExchangeAndRepliesRunOneBehind)
+// The advice comes up while the port is still open; it is closed once the user has read it.
+TEST_F(EnlaceTest, ABoardThatDoesNotAnswerGetsTheAdviceWhileThePortIsStillOpen)
 {
-    puerto.llegara("1", 101);
-    EXPECT_EQ(enlace.intercambio("a"), "Error");
-    puerto.llegara("2", 5);
-    EXPECT_EQ(enlace.intercambio("b"), "1");
-    EXPECT_EQ(puerto.lecturas, 101); // the late byte was there at the first read
-    EXPECT_EQ(enlace.intercambio("c"), "2");
+    avisos.almostrar = [&] { EXPECT_TRUE(puerto.abierto()); };
+    marco.ejecutar(boton, palabras::grabar, [&] { FAIL() << "the operation ran"; });
+    EXPECT_EQ(paneles.textos[1], "E R R O R  en la  C O N E C C I O N ...");
+    const Aviso aviso{"                  Posibles Causas\r\n"
+                      "-  Pueve que el dispositivo este conectado a la Pc\r\n"
+                      "-  Prueve que este devidamente alimentado\r\n"
+                      "                   Posibles soluciones\r\n"
+                      "* Apage el dispositivo y vuelva a encenderlo\r\n"
+                      "* Revise la linea de coneccion con el puerto Serial\r\n"
+                      "* Revise el armado del circuito  ",
+                      "Error de Comunicacion con el dispositivo ", Icono::exclamacion};
+    EXPECT_EQ(avisos.mostrados, std::vector<Aviso>{aviso});
 }
 
-TEST_F(EnlaceTest, TwoBytesInTheBufferAreOneReply)
+// Only the one-character reply "c" to the check lets the operation run, and each operation
+// logs its own words after the time. The editor's failure line ends in a blank.
+TEST_F(EnlaceTest, OnlyTheReplyCRunsTheOperationAndEachOperationLogsItsOwnWords)
 {
-    puerto.llegara("cc");
-    EXPECT_EQ(enlace.intercambio("c"), "cc");
-}
-
-TEST_F(EnlaceTest, AByteZeroIsAReplyNotASilence)
-{
-    puerto.llegara(std::string(1, '\0'), 3);
-    const std::string respuesta = enlace.intercambio(std::string(1, '\0'));
-    ASSERT_EQ(respuesta.size(), 1u);
-    EXPECT_EQ(respuesta[0], '\0');
-    EXPECT_EQ(puerto.lecturas, 3);
-    EXPECT_EQ(puerto.enviados, std::string(1, '\0'));
-}
-
-TEST_F(EnlaceTest, AnEmptyTextSendsNothingAndWaitsOutItsTries)
-{
-    EXPECT_EQ(enlace.intercambio(""), "Error");
-    EXPECT_TRUE(puerto.enviados.empty());
-    EXPECT_EQ(puerto.lecturas, 100);
-}
-
-TEST(EnlaceSinPuerto, APortThatCannotOpenFailsLikeASilentBoardAndStaysClosed)
-{
-    PuertoGuion puerto;
-    puerto.abrible = false;
-    Enlace enlace(puerto);
-    enlace.serial();
-    EXPECT_EQ(enlace.intercambio("c"), "Error");
-    EXPECT_TRUE(puerto.enviados.empty());
-    EXPECT_FALSE(puerto.abierto());
-    EXPECT_EQ(puerto.esperas, 100);
+    const std::tuple<const char*, const PalabrasMarco&, std::string, std::string> casos[]{
+        {"LeerRuns", palabras::leer, "c", "... Coneccion Exitosa!!!........Leyendo"},
+        {"LeerWithoutReply", palabras::leer, "", "... Coneccion Erronea!!!"},
+        {"GrabarRuns", palabras::grabar, "c", "... Coneccion Exitosa .........Gravando!!!"},
+        {"GrabarTwoCs", palabras::grabar, "cc", "... Coneccion Erronea No existe Comunicacion"},
+        {"VerificarRuns", palabras::verificar, "c", "... Coneccion Exitosa!!!........Verificando"},
+        {"VerificarUpperC", palabras::verificar, "C", "... Coneccion Erronea!!!"},
+        {"EditadoRuns", palabras::editado, "c", "... Coneccion Exitosa .........Gravando del Editor!!!"},
+        {"EditadoZero", palabras::editado, "\0"s, "... Coneccion Erronea .....Fallo Grabar del editor!!! "},
+    };
+    for (const auto& [nombre, palabras, respuesta, linea] : casos) {
+        caja.contenido.clear();
+        puerto.alescribir = [&](const std::string&) { puerto.llegara(respuesta); };
+        bool corrio = false;
+        marco.ejecutar(boton, palabras, [&] { corrio = true; });
+        EXPECT_EQ(corrio, respuesta == "c") << nombre;
+        EXPECT_EQ(caja.contenido, "10:11:12" + linea + "\r\n") << nombre;
+    }
 }
 
 } // namespace

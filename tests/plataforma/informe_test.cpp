@@ -4,29 +4,17 @@
 #include <gtest/gtest.h>
 
 namespace eeprog {
-namespace {
 
-using namespace prueba;
-
-TEST(Informe, EachLineEndsInCrLfAndATimedLineHasNoBlankBeforeItsMessage)
+// What the user typed into the log stays, and the next line follows it on the same line.
+TEST(Informe, LinesEndInCrLfBehindWhatTheUserTypedAndATimedLineHasNoBlankBeforeItsMessage)
 {
-    CajaFalsa caja;
-    RelojFijo reloj;
-    Informe informe(caja, reloj);
-    informe.linea("uno");
-    informe.lineaconhora("... dos");
-    EXPECT_EQ(caja.contenido, "uno\r\n10:11:12... dos\r\n");
-}
-
-TEST(Informe, WhatTheUserTypedStaysAndTheNextLineGoesBehindIt)
-{
-    CajaFalsa caja;
-    RelojFijo reloj;
+    prueba::CajaFalsa caja;
+    prueba::RelojFijo reloj;
     Informe informe(caja, reloj);
     caja.contenido = "linea\r\nnota del usuario";
-    informe.linea("... Lectura Concluida!!!");
-    EXPECT_EQ(caja.contenido, "linea\r\nnota del usuario... Lectura Concluida!!!\r\n");
+    informe.linea("... uno");
+    informe.lineaconhora("... dos");
+    EXPECT_EQ(caja.contenido, "linea\r\nnota del usuario... uno\r\n10:11:12... dos\r\n");
 }
 
-} // namespace
 } // namespace eeprog

@@ -1,135 +1,166 @@
+#include "pantallafalsa.h"
+#include "records/apertura.h"
 #include "records/cargarhex.h"
 #include "records/cargarobj.h"
+#include "records/disco.h"
+#include "records/hexadecimal.h"
+#include "records/mostrarvector.h"
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <tuple>
 
 namespace eeprog {
-namespace {
 
-// What an entry holds before the intake: every entry the intake leaves alone shows it.
-constexpr int antes = -7;
+TEST(Hexadecimal, RendersPaddedOrNotWithNegativesAsSixteenBitAndReadsOnlyUppercaseDigits)
+{
+    // clang-format off
+    // value: hexa, doscifras, cuatrocifras
+    const std::tuple<long, const char*, const char*, const char*> filas[] = {
+        {0, "0", "00", "0000"}, {10, "A", "0A", "000A"}, {256, "100", "100", "0100"}, {0x1FFF, "1FFF", "1FFF", "1FFF"},
+        {65543, "10007", "10007", "10007"}, {-4, "FFFC", "FFFC", "FFFC"}, {-4096, "F000", "F000", "F000"}};
+    // Any other character is a 0 that keeps its place.
+    const std::pair<const char*, const char*> lecturas[] = {{"7A", "122"}, {"90AF", "37039"}, {"FFFF", "65535"},
+        {"", "0"}, {"ff", "0"}, {"1f", "16"}, {"S1", "1"}, {"7G", "112"}, {":1", "1"}, {"1@", "16"}, {"/", "0"}};
+    // clang-format on
+    for (const auto& [n, plano, dos, cuatro] : filas)
+        EXPECT_EQ(std::tuple(hexa(n), doscifras(n), cuatrocifras(n)), std::tuple(plano, dos, cuatro)) << n;
+    for (const auto& [texto, valor] : lecturas)
+        EXPECT_EQ(hexadecimal(texto), valor) << '"' << texto << '"';
+}
 
-struct Caso {
-    std::string texto;
-    std::vector<int> vector; // entries from 0 on, including the first one left alone
-    int totalvector;
+// n times a line of 22 entries: count, address (2), type, 16 data bytes, checksum, line end.
+std::string lineas(int n, const std::string& linea)
+{
+    return n == 0 ? "" : linea + lineas(n - 1, linea);
+}
+
+// Each row: the entries from an index on; every entry behind them is left as it was (-7).
+TEST(Intake, TakesEveryPairInFileOrderWithTheQuirksOfTheWalk)
+{
+    const std::string hex = ":10000000000102030405060708090A0B0C0D0E0F78\r\n",
+                      obj = "S113000000112233445566778899AABBCCDDEEFF1C\r\n";
+    // clang-format off
+    const std::tuple<const char*, void (*)(std::string_view, Registros&), std::string, int, std::vector<int>, int> filas[] = {
+        {"hex: the end record's 0 goes behind, uncounted", cargarhex, ":0300300002337A1E\r\n:00000001FF\r\n",
+         0, {3, 0, 48, 0, 2, 51, 122, 30, 0, 0}, 9},
+        // An LF pairs with the next ":"; the end record is read off a pair's place, as entries.
+        {"hex with LF line ends", cargarhex, ":0300300002337A1E\n:01001000FFEF\n:00000001FF\n",
+         0, {3, 0, 48, 0, 2, 51, 122, 30, 0, 1, 0, 16, 0, 255, 239, 0, 0, 0, 0, 1, 255, 0}, 22},
+        {"obj: S1 gets its data count and a type, S9 ends", cargarobj, "S106010041424332\r\nS9030000FC\r\n",
+         0, {3, 1, 0, 0, 65, 66, 67, 50, 0, 0}, 9},
+        // Its "S0" reads as a 0, which ends the run shown.
+        {"obj: a header line is taken pair by pair", cargarobj, "S00600004844521B\r\nS1030010EC\r\nS9030000FC\r\n",
+         0, {0, 6, 0, 0, 72, 68, 82, 27, 0, 0, 0, 16, 0, 236, 0, 0}, 15},
+        // The walk goes on by pairs from an odd place: "S1" and "S9" are no longer seen.
+        {"obj with LF line ends", cargarobj, "S106010041424332\nS9030000FC\n",
+         0, {3, 1, 0, 0, 65, 66, 67, 50, 0, 144, 48, 0, 15, 192}, 14},
+        // The write index stops at 32767 = 1489 lines of 22 and 9 entries: 32766 is data byte 4.
+        {"hex past capacity", cargarhex, lineas(1500, hex), 32764, {2, 3, 4}, 32767},
+        {"hex filling it exactly", cargarhex, lineas(1489, hex) + ":0300300002337A1E\r\n:00000001FF\r\n",
+         32764, {122, 30, 0, 0}, 32767},
+        // 6 header entries put an S1 line at 32764: it stops within its count and address.
+        {"obj stopping in an S1 line", cargarobj, "S0030000FC\r\n" + lineas(1500, obj), 32764, {16, 0, 0}, 32767}};
+    // clang-format on
+    for (const auto& [nombre, cargar, texto, desde, vector, totalvector] : filas) {
+        Registros registros;
+        registros.vector.fill(-7);
+        cargar(texto, registros);
+        const auto hasta = registros.vector.begin() + desde + static_cast<long>(vector.size());
+        EXPECT_EQ(std::vector<int>(registros.vector.begin() + desde, hasta), vector) << nombre;
+        EXPECT_TRUE(std::all_of(hasta, registros.vector.end(), [](int v) { return v == -7; })) << nombre;
+        EXPECT_EQ(registros.totalvector, totalvector) << nombre;
+    }
+}
+
+// A file taken into the buffer and shown on the grids as they are at start-up.
+struct MostrarVector : ::testing::Test {
+    void mostrar(const std::string& texto, const std::string& nombre = "/datos/prueba.hex")
+    {
+        dibujareditor(cuadriculas), registros = {};
+        caja.contenido.clear();
+        archivo = {texto, nombre, nombre.substr(nombre.rfind('/') + 1)};
+        ponerenvector(archivo, registros, avisos);
+        mostrarvector(registros, archivo, {cuadriculas, StatusBar1, informe});
+    }
+    // The texts of fghex from an address on, leaving out those of an erased chip's cells.
+    std::string escritas(long desde = 0, long hasta = 65536)
+    {
+        std::string texto;
+        for (long celda = desde; celda < hasta; ++celda)
+            if (const std::string& hex = cuadriculas.fghex.TextMatrix(celda / 16, celda % 16); hex != "FF")
+                texto += hex;
+        return texto;
+    }
+
+    Cuadriculas cuadriculas;
+    prueba::CajaFalsa caja;
+    prueba::RelojFijo reloj;
+    Informe informe{caja, reloj};
+    prueba::PanelesFalsos StatusBar1;
+    prueba::AvisosFalsos avisos;
+    Registros registros;
+    ArchivoAbierto archivo;
 };
 
-void comprobar(void (*cargar)(std::string_view, Registros&), const std::vector<Caso>& casos)
+// The figure is the address of the last byte of the last record in the file, whatever came before.
+TEST_F(MostrarVector, ShowsEachRecordInTheGridsAndNamesTheFileWithTheFigureOfTheLast)
 {
-    for (const Caso& caso : casos) {
-        Registros registros;
-        registros.vector.fill(antes);
-        cargar(caso.texto, registros);
-        const std::vector<int> leido(registros.vector.begin(), registros.vector.begin() + caso.vector.size());
-        EXPECT_EQ(leido, caso.vector) << caso.texto;
-        EXPECT_EQ(registros.totalvector, caso.totalvector) << caso.texto;
+    // clang-format off
+    // label, file, first address written, bytes written in address order, figure
+    const std::tuple<const char*, const char*, long, const char*, const char*> filas[] = {
+        {"hex", ":0300300002337A1E\r\n:00000001FF\r\n", 0x30, "02337A", "50 Bytes = 32 Hexa"},
+        {"obj", "S106010041424332\r\nS9030000FC\r\n", 0x100, "414243", "258 Bytes = 102 Hexa"},
+        {"one byte at 0", ":0100000055AA\r\n", 0, "55", "0 Bytes = 0 Hexa"},
+        {"an S1 count below 3 shows no byte", "S1020000FD\r\nS9030000FC\r\n", 0, "", "-2 Bytes = FFFE Hexa"},
+        // The walk goes on by that count plus 6.
+        {"an S1 line behind a short one", "S1020010\r\nS1050020414200\r\nS9030000FC\r\n", 0x20, "4142", "33 Bytes = 21 Hexa"},
+        {"a later record over the same cells stands, and a record runs on across rows",
+         ":10100000000102030405060708090A0B0C0D0E0F68\r\n:04000E00C0C1C2C3F6\r\n:01000F00AA46\r\n",
+         0x0E, "C0AAC2C3000102030405060708090A0B0C0D0E0F", "15 Bytes = F Hexa"},
+        {"bytes past the last cell are dropped", ":10FFF800000102030405060708090A0B0C0D0E0F79\r\n",
+         0xFFF8, "0001020304050607", "65543 Bytes = 10007 Hexa"},
+        {"an empty text shows nothing and names no file", "", 0, "", ""}};
+    // clang-format on
+    for (const auto& [nombre, texto, desde, bytes, figura] : filas) {
+        SCOPED_TRACE(nombre);
+        mostrar(texto);
+        EXPECT_EQ(escritas(desde, desde + 2) + " " + escritas(), std::string(bytes).substr(0, 4) + " " + bytes);
+        EXPECT_EQ(StatusBar1.textos[1] + "|" + StatusBar1.textos[2] + "|" + caja.contenido,
+                  *figura ? std::string("/datos/prueba.hex|") + figura +
+                                "|10:11:12... Archivo = prueba.hex      Tamaño = " + figura + "\r\n"
+                          : "Directorio|Tamaño|");
     }
 }
 
-TEST(CargarHex, TakesEveryPairInFileOrderAndEndsAtAColonWithZeroZeroBehindIt)
+// Files that other tools make of an 8 KB image, opened as the program opens them.
+TEST_F(MostrarVector, FilesOfOtherToolsLoadWholeInTheShapesTheIntakesKnow)
 {
-    comprobar(cargarhex, {
-                             {":0300300002337A1E\r\n:00000001FF\r\n", {3, 0, 48, 0, 2, 51, 122, 30, 0, 0, antes}, 9},
-                             {":0300300002337A1F\r\n:00000001FF\r\n", {3, 0, 48, 0, 2, 51, 122, 31, 0, 0, antes}, 9},
-                             {":03003000aabbcc1e\r\n:00000001FF\r\n", {3, 0, 48, 0, 0, 0, 0, 16, 0, 0, antes}, 9},
-                             // An extended address line is a two-byte record at address 0 like any other.
-                             {":020000040000FA\r\n:0300300002337A1E\r\n:00000001FF\r\n",
-                              {2, 0, 0, 4, 0, 0, 250, 0, 3, 0, 48, 0, 2, 51, 122, 30, 0, 0, antes},
-                              17},
-                             // Without an end record the walk runs to the end of the text and writes no 0 behind.
-                             {":0300300002337A1E\r\n", {3, 0, 48, 0, 2, 51, 122, 30, 0, antes}, 9},
-                         });
-}
-
-TEST(CargarHex, OddLineBreaksAndTextEndsKeepTheWalkGoingPairByPair)
-{
-    comprobar(cargarhex, {
-                             // An LF pairs with the next ":", so records stay in place; the end record is
-                             // then read off a pair's place and taken as entries.
-                             {":0300300002337A1E\n:01001000FFEF\n:00000001FF\n",
-                              {3, 0, 48, 0, 2, 51, 122, 30, 0, 1, 0, 16, 0, 255, 239, 0, 0, 0, 0, 1, 255, 0, antes},
-                              22},
-                             // A blank line puts a 0 in the next count's place; the records behind are still taken.
-                             {":0300300002337A1E\r\n\r\n:0100100041AE\r\n:00000001FF\r\n",
-                              {3, 0, 48, 0, 2, 51, 122, 30, 0, 0, 1, 0, 16, 0, 65, 174, 0, 0, antes},
-                              17},
-                             {":0100200041BE\r\n5", {1, 0, 32, 0, 65, 190, 0, 5, antes}, 8},
-                             {":0100200041BE\r\n:", {1, 0, 32, 0, 65, 190, 0, antes}, 7},
-                         });
-}
-
-TEST(CargarObj, AnS1LineGetsItsDataCountAndATypeAndS9EndsTheIntake)
-{
-    comprobar(cargarobj, {
-                             {"S106010041424332\r\nS9030000FC\r\n", {3, 1, 0, 0, 65, 66, 67, 50, 0, 0, antes}, 9},
-                             // A header line is taken pair by pair: its "S0" is a 0, which ends the run shown.
-                             {"S00600004844521B\r\nS106010041424332\r\nS9030000FC\r\n",
-                              {0, 6, 0, 0, 72, 68, 82, 27, 0, 3, 1, 0, 0, 65, 66, 67, 50, 0, 0, antes},
-                              18},
-                             {"S1030010EC\r\nS9030000FC\r\n", {0, 0, 16, 0, 236, 0, 0, antes}, 6},
-                             {"S1020010ED\r\n", {-1, 0, 16, 0, 237, 0, antes}, 6},
-                             {"S1000010EF\r\n", {-3, 0, 16, 0, 239, 0, antes}, 6},
-                             // Line types are compared exactly and digits must be uppercase.
-                             {"S1060100ab4c4d32\r\nS9030000FC\r\n", {3, 1, 0, 0, 0, 64, 64, 50, 0, 0, antes}, 9},
-                             {"s106010041424332\r\nS9030000FC\r\n", {1, 6, 1, 0, 65, 66, 67, 50, 0, 0, antes}, 9},
-                         });
-}
-
-TEST(CargarObj, AOneCharacterLineEndHidesTheLineTypesOfTheNextLine)
-{
-    comprobar(cargarobj,
-              {
-                  {"S1040100414278\nS1040102424475\r\n",
-                   {1, 1, 0, 0, 65, 66, 120, 0, 16, 64, 16, 36, 36, 71, 80, 0, antes},
-                   16},
-                  {"S106010041424332\nS9030000FC\n", {3, 1, 0, 0, 65, 66, 67, 50, 0, 144, 48, 0, 15, 192, antes}, 14},
-              });
-}
-
-// 22 entries a line: count, address, type, 16 data bytes, checksum, line end.
-std::string lineas(const std::string& linea, int cuantas)
-{
-    std::string texto;
-    for (int n = 0; n < cuantas; ++n)
-        texto += linea;
-    return texto;
-}
-
-TEST(Capacidad, BothIntakesStopAtTheLastIndexTheirCountReachesAndWriteNothingPastIt)
-{
-    const std::string hex = ":10000000000102030405060708090A0B0C0D0E0F78\r\n";
-    const std::string obj = "S113000000112233445566778899AABBCCDDEEFF1C\r\n";
-    struct Lleno {
-        void (*cargar)(std::string_view, Registros&);
-        std::string texto;
-        std::size_t indice; // an entry near the end, to show the walk was in step there
-        int valor;
-        int ultimo; // entry 32767 afterwards
-    };
-    const std::vector<Lleno> casos{
-        {cargarhex, lineas(hex, 1500), 32766, 0x04, antes},
-        // 1489 lines and a 9-entry one fill the buffer exactly; the end record's 0 goes behind.
-        {cargarhex, lineas(hex, 1489) + ":0300300002337A1E\r\n:00000001FF\r\n", 32764, 0x7A, 0},
-        {cargarobj, lineas(obj, 1500) + "S9030000FC\r\n", 32766, 0x44, antes},
-        // 6 header entries put an S1 line three entries short of the end: it stops within its count
-        // and address.
-        {cargarobj, "S0030000FC\r\n" + lineas(obj, 1500), 32764, 16, antes},
-    };
-    for (const Lleno& caso : casos) {
-        Registros registros;
-        registros.vector.fill(antes);
-        caso.cargar(caso.texto, registros);
-        EXPECT_EQ(registros.totalvector, capacidadvector);
-        EXPECT_EQ(registros.vector[caso.indice], caso.valor);
-        EXPECT_EQ(registros.vector[capacidadvector], caso.ultimo);
-        for (std::size_t i = capacidadvector + 1; i < registros.vector.size(); ++i)
-            ASSERT_EQ(registros.vector[i], antes) << i;
+    if (std::system("command -v objcopy >/dev/null && command -v srec_cat >/dev/null") != 0)
+        GTEST_SKIP() << "objcopy or srec_cat is missing: scripts/deps.sh installs binutils and srecord";
+    std::string carpeta = testing::TempDir() + "externosXXXXXX", imagen, esperado;
+    ASSERT_NE(mkdtemp(carpeta.data()), nullptr);
+    for (int i = 0; i < 8192; ++i) // bytes 0 to 250, so that no cell written looks erased
+        imagen += static_cast<char>(i * 37 % 251),
+            esperado += {"0123456789ABCDEF"[i * 37 % 251 / 16], "0123456789ABCDEF"[i * 37 % 251 % 16]};
+    std::ofstream(carpeta + "/img.bin", std::ios::binary) << imagen;
+    const std::pair<std::string, int> filas[] = {
+        // 512 lines of 16 bytes, 22 entries each: count, address (2), type, data, checksum, line end.
+        {"objcopy -I binary -O ihex img.bin salida", 512 * 22},
+        // 256 lines of 32 bytes behind an extended address line of 8 entries; with LF line ends
+        // the end record is taken as 6 entries.
+        {"srec_cat img.bin -binary -o salida -intel", 8 + 256 * 38 + 6}};
+    for (const auto& [orden, totalvector] : filas) {
+        ASSERT_EQ(std::system(("cd " + carpeta + " && " + orden).c_str()), 0) << orden;
+        mostrar(leerarchivo(carpeta + "/salida").value(), carpeta + "/salida");
+        EXPECT_EQ(escritas(0, 8192) + escritas(8192) + " " + StatusBar1.textos[2], esperado + " 8191 Bytes = 1FFF Hexa")
+            << orden;
+        EXPECT_EQ(registros.totalvector, totalvector) << orden;
     }
+    std::filesystem::remove_all(carpeta);
 }
 
-} // namespace
 } // namespace eeprog

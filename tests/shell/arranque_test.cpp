@@ -1,118 +1,60 @@
-#include "aplicacion.h"
-#include "dialogofalso.h"
-#include "pantallafalsa.h"
-#include "placa.h"
-#include "puertoplaca.h"
 #include "shell/qt/programa.h"
 #include "shell/qt/twips.h"
 #include "shell/qt/ventanasplash.h"
+#include "ventanaprueba.h"
 
-#include <QLabel>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
+namespace eeprog::prueba {
 
-#include <gtest/gtest.h>
-
-namespace eeprog {
-namespace {
-
-using namespace prueba;
-
-// A run from its first window: the splash, with the main window made over fakes.
-class ArranqueTest : public ::testing::Test {
+// A run from its first window: the splash, with the main window made over the fakes.
+class ArranqueTest : public VentanaPrueba {
 protected:
-    static void SetUpTestSuite() { crearaplicacion(); }
-
-    Programa::Creador creador()
+    void SetUp() override {}
+    Programa programa{[this] { return crear(); }};
+    QPointer<VentanaSplash> splash = programa.frmSplash();
+    // The splash has gone and the main window stands.
+    bool cerrado() const
     {
-        return [this] {
-            ++creadas;
-            return std::make_unique<VentanaForm1>(
-                Dependencias{std::make_unique<PuertoPlaca>(placa), std::make_unique<AvisosFalsos>(),
-                             std::make_unique<RelojFijo>(), std::make_unique<DialogoFalso>()});
-        };
+        return !(splash && splash->isVisible()) && programa.Form1() && programa.Form1()->isVisible();
     }
-
-    static bool visible(const VentanaForm1* ventana) { return ventana && ventana->isVisible(); }
-
-    Placa placa;
-    int creadas = 0;
 };
 
-TEST_F(ArranqueTest, WithNothingGivenTheMainWindowComesAtTheFirstTickAndTheSplashGoesAtTheFourth)
+TEST_F(ArranqueTest, WithNothingGivenTheTimerBringsUpTheMainWindowAndTakesTheSplashAway)
 {
-    Programa programa(creador());
-    QPointer<VentanaSplash> splash = programa.frmSplash();
-    ASSERT_TRUE(splash && splash->isVisible());
-    EXPECT_EQ(programa.Form1(), nullptr);
-    EXPECT_EQ(splash->Label1().text(), "Programador de Memoria EEPROM AT28C64B ");
-    EXPECT_EQ(splash->Label2().text(), "Cargando Espere..........");
-
-    ASSERT_TRUE(QTest::qWaitFor([&] { return programa.Form1() != nullptr; }, 2000));
-    EXPECT_TRUE(visible(programa.Form1()));
-    EXPECT_TRUE(splash);
-    EXPECT_EQ(splash->logica().cuentaticks(), 1);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return splash.isNull(); }, 3000));
-    EXPECT_EQ(creadas, 1);
-    EXPECT_TRUE(visible(programa.Form1()));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return cerrado(); }, 3000));
 }
 
-// A click on the texts does nothing, nor does a key that gives no character; a key that
-// gives one makes the splash go, and then brings the main window up; no tick comes any more.
-TEST_F(ArranqueTest, AKeyBeforeTheFirstTickClosesTheSplashAndThenBringsUpTheMainWindow)
+// The texts take no click, and a key that gives no character does nothing.
+TEST_F(ArranqueTest, OnlyAKeyGivingACharacterClosesTheSplash)
 {
-    Programa programa(creador());
-    QPointer<VentanaSplash> splash = programa.frmSplash();
-    QTest::mouseClick(&splash->Label1(), Qt::LeftButton);
+    clic(splash->Label1());
     QTest::sendKeyEvent(QTest::Click, splash, Qt::Key_Delete, QStringLiteral("\x7f"), {}); // as X11 gives it
-    EXPECT_TRUE(splash && splash->isVisible());
-    EXPECT_EQ(programa.Form1(), nullptr);
-
+    EXPECT_TRUE(splash && splash->isVisible() && !programa.Form1());
     QTest::keyClick(splash, Qt::Key_A);
-    EXPECT_FALSE(splash && splash->isVisible());
-    EXPECT_TRUE(visible(programa.Form1()));
-    QTest::qWait(4 * FrmSplash::intervalo + 200);
-    EXPECT_TRUE(splash.isNull());
-    EXPECT_EQ(creadas, 1);
+    EXPECT_TRUE(cerrado());
 }
 
-// The first label is 3135 twips wide from 1320, however long its text in the font at hand.
+// The first label is 3135 twips wide from 1320, however long its text in the font at hand;
+// the click goes through the window to whatever lies at that point.
 TEST_F(ArranqueTest, AClickBesideTheTextsClosesTheSplash)
 {
-    Programa programa(creador());
-    QPointer<VentanaSplash> splash = programa.frmSplash();
-    // Through the window, so the click goes to whatever lies at that point.
     QTest::mouseClick(splash->windowHandle(), Qt::LeftButton, {}, QPoint(pixeles(4500), pixeles(300)));
-    EXPECT_FALSE(splash && splash->isVisible());
-    EXPECT_TRUE(visible(programa.Form1()));
+    EXPECT_TRUE(cerrado());
 }
 
-// Closing the main window leaves an open about box standing; the run ends when that box
-// is closed in turn.
 TEST_F(ArranqueTest, AnOpenAboutBoxOutlivesTheMainWindowAndTheRunEndsWithIt)
 {
-    Programa programa(creador());
-    QTest::keyClick(programa.frmSplash(), Qt::Key_A);
+    QTest::keyClick(splash, Qt::Key_A);
     VentanaForm1* Form1 = programa.Form1();
-    ASSERT_NE(Form1, nullptr);
     Form1->opcionacercade_Click();
     bool cajaenpie = false;
-    bool agotado = false;
     QTimer::singleShot(0, Form1, [Form1] { Form1->close(); });
     QTimer::singleShot(200, Form1, [&] {
         cajaenpie = Form1->frmAbout() && Form1->frmAbout()->isVisible();
-        if (Form1->frmAbout())
-            Form1->frmAbout()->cmdOK().click();
+        cajaenpie ? Form1->frmAbout()->cmdOK().click() : void();
     });
-    QTimer::singleShot(5000, [&] {
-        agotado = true;
-        QCoreApplication::exit(99);
-    });
+    QTimer::singleShot(5000, Form1, [] { QCoreApplication::exit(99); });
     EXPECT_EQ(QCoreApplication::exec(), 0);
     EXPECT_TRUE(cajaenpie);
-    EXPECT_FALSE(agotado);
 }
 
-} // namespace
-} // namespace eeprog
+} // namespace eeprog::prueba

@@ -1,166 +1,77 @@
-#include "dialogofalso.h"
-#include "pantallafalsa.h"
-#include "placa.h"
-#include "puertoguion.h"
-#include "puertoplaca.h"
-#include "shell/form1.h"
+#include "formprueba.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-
-namespace eeprog {
+namespace eeprog::prueba {
 namespace {
 
-using namespace prueba;
+using Form1Test = FormPrueba;
 
-// The main window's logic over recording controls and a board in the same process.
-class Form1Test : public ::testing::Test {
-protected:
-    Bitacora bitacora;
-    CajaFalsa txtinforme{&bitacora};
-    PanelesFalsos StatusBar1{&bitacora};
-    BarraFalsa ProgressBar1;
-    std::array<BotonFalso, 8> botones{BotonFalso{"abrir", &bitacora},  BotonFalso{"guardar", &bitacora},
-                                      BotonFalso{"leer", &bitacora},   BotonFalso{"borrar", &bitacora},
-                                      BotonFalso{"grabar", &bitacora}, BotonFalso{"verificar", &bitacora},
-                                      BotonFalso{"edit", &bitacora},   BotonFalso{"editado", &bitacora}};
-    Cuadriculas cuadriculas;
-    DialogoFalso dialogo{&bitacora};
-    RelojFijo reloj;
-    AvisosFalsos avisos{&bitacora};
-    SkinFalso skin{&bitacora};
-    AbridorFalso abridor{&bitacora};
-
-    Controles controles()
-    {
-        Botones b{botones[0], botones[1], botones[2], botones[3], botones[4], botones[5], botones[6], botones[7]};
-        return {txtinforme, StatusBar1, ProgressBar1, b, cuadriculas};
+// The first line replaces whatever the log held. The check reports to the log alone.
+TEST_F(Form1Test, StartUpLogsThreeLinesSayingWhetherTheBoardAnswered)
+{
+    for (bool muda : {false, true}) {
+        SCOPED_TRACE(muda ? "no board" : "board");
+        placa = Placa({.muda = muda});
+        txtinforme.contenido = "texto de antes";
+        form->Form_Load();
+        EXPECT_EQ(
+            txtinforme.contenido,
+            std::string("Programador de memorias EEPROM AT28c64b por Varnimo\r\n"
+                        "Fecha : 23/11/2026    Hora : 10:11:12           Cesion Iniciada...\r\n") +
+                (muda ? "Programador..... NO EXISTE CONECCION\r\n" : "Programador..... C O N E C T A D O !!!!\r\n"));
+        EXPECT_EQ(StatusBar1.textos,
+                  (std::map<int, std::string>{{1, "Programador de memorias EEPROM AT28c64b por Varnimo"}}));
+        EXPECT_TRUE(avisos.mostrados.empty() && !puertoplaca.abierto());
     }
-};
-
-const std::string cabecera = "Programador de memorias EEPROM AT28c64b por Varnimo\r\n"
-                             "Fecha : 23/11/2026    Hora : 10:11:12           Cesion Iniciada...\r\n";
-
-TEST_F(Form1Test, StartingWithTheBoardLogsThreeLinesEndingInConectado)
-{
-    Placa placa;
-    PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor});
-    form.Form_Load();
-    EXPECT_EQ(txtinforme.contenido, cabecera + "Programador..... C O N E C T A D O !!!!\r\n");
-    EXPECT_EQ(puerto.enviados(), "c");
-    EXPECT_EQ(puerto.cierres(), 1);
-    EXPECT_FALSE(puerto.abierto());
 }
 
-TEST_F(Form1Test, StartingWithoutABoardLogsNoExisteAndShowsNoBoxAndNoPanelText)
+// At start-up and from the menu the skin dresses the window, then its colour goes to the
+// buttons, the log and the grids. The menu's skin is loaded from beside the program first;
+// edit mode and a pending digit end on the way.
+TEST_F(Form1Test, TheSkinDressesTheWindowAtStartUpAndFromTheMenuWhichEndsEditMode)
 {
-    Placa placa({.muda = true});
-    PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor});
-    form.Form_Load();
-    EXPECT_EQ(txtinforme.contenido, cabecera + "Programador..... NO EXISTE CONECCION\r\n");
-    EXPECT_TRUE(avisos.mostrados.empty());
-    EXPECT_EQ(StatusBar1.textos[1], "Programador de memorias EEPROM AT28c64b por Varnimo");
-    EXPECT_EQ(StatusBar1.textos.size(), 1u);
-    EXPECT_EQ(puerto.esperas(), 100);
-    EXPECT_FALSE(puerto.abierto());
-}
-
-TEST_F(Form1Test, TheFirstLineReplacesWhateverTheLogHeld)
-{
-    txtinforme.contenido = "texto de antes";
-    Placa placa;
-    PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor});
-    form.Form_Load();
-    EXPECT_EQ(txtinforme.contenido.rfind(cabecera, 0), 0u);
-}
-
-TEST_F(Form1Test, StartUpRunsItsStepsInOrder)
-{
-    PuertoGuion puerto(&bitacora);
-    puerto.alescribir = [&](const std::string& d) { puerto.llegara(d); };
-    cuadriculas.fgascii.alcambiar = [&](Cambio c) {
-        if (c == Cambio::aspecto)
-            bitacora.sucesos.push_back("fgascii aspecto");
-        if (c == Cambio::forma && cuadriculas.fgascii.Rows() == filasrejilla)
-            bitacora.sucesos.push_back("fgascii formada");
+    const auto vestida = [&](Color color) {
+        for (const BotonFalso& boton : botones)
+            EXPECT_EQ(boton.fondo, color) << boton.nombre;
+        EXPECT_EQ(txtinforme.fondo, color);
+        for (const Rejilla* rejilla : {&cuadriculas.fgdir, &cuadriculas.fghex, &cuadriculas.fgascii})
+            EXPECT_TRUE(rejilla->BackColor() == color && rejilla->GridColor() == negro);
     };
-    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor});
-    form.Form_Load();
+    crear(puertoplaca, "/opt/eeprog");
+    cuadriculas = Cuadriculas{};
+    skin.actual = Color{10, 20, 30};
+    form->Form_Load();
+    vestida(skin.actual);
+    EXPECT_EQ(cuadriculas.fgdir.TextMatrix(filasrejilla - 1, 0), "FFF0") << "the grids are drawn";
+    const std::vector<std::string> inicio = pasos();
+    EXPECT_EQ(inicio.front(), "skin aplicar");
+    EXPECT_EQ(inicio.back(), "editado deshabilitado");
 
-    const std::vector<std::string> pasos{"skin aplicar",
-                                         "abrir color 221,247,224",
-                                         "editado color 221,247,224",
-                                         "informe color 221,247,224",
-                                         "fgascii aspecto",
-                                         "panel 1 Programador de memorias EEPROM AT28c64b por Varnimo",
-                                         "escribir c",
-                                         "cerrar",
-                                         "fgascii formada",
-                                         "editado deshabilitado"};
-    auto desde = bitacora.sucesos.begin();
-    for (const std::string& paso : pasos) {
-        auto hallado = std::find(desde, bitacora.sucesos.end(), paso);
-        ASSERT_NE(hallado, bitacora.sucesos.end()) << "missing or out of order: " << paso;
-        desde = hallado;
-    }
-    EXPECT_EQ(bitacora.sucesos.back(), "editado deshabilitado");
+    form->edit_Click();
+    form->edicion().cuentadigitos = 1;
+    pasos();
+    skin.actual = Color{1, 2, 3};
+    form->MNUCamb_Click(1);
+    vestida(skin.actual);
+    EXPECT_FALSE(form->edicion().edicionhabilitada || form->edicion().cuentadigitos);
+    EXPECT_TRUE(botones[7].habilitado && botones[6].apariencia == Apariencia::tridimensional);
+    EXPECT_EQ(
+        std::vector(bitacora.sucesos.begin(), bitacora.sucesos.begin() + 3),
+        (std::vector<std::string>{"skin cargar /opt/eeprog/skins/galaxy.skn", "skin aplicar", "abrir color 1,2,3"}));
 }
 
-TEST_F(Form1Test, StartUpDressesTheWindowAndLeavesEveryCommandButEditadoEnabled)
+// EDITAR enables EDITADO and says so; the circuit entries hand the documents beside the
+// program to the desktop.
+TEST_F(Form1Test, EditarAndTheCircuitEntries)
 {
-    skin.actual = Color{10, 20, 30};
-    Placa placa;
-    PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor});
-    form.Form_Load();
-    EXPECT_EQ(skin.aplicados, std::vector<Formulario>{Formulario::Form1});
-    for (const BotonFalso& boton : botones) {
-        EXPECT_EQ(boton.fondo, (Color{10, 20, 30}));
-        EXPECT_EQ(boton.apariencia, Apariencia::plana);
-    }
-    EXPECT_EQ(txtinforme.fondo, (Color{10, 20, 30}));
-    for (const Rejilla* rejilla : {&cuadriculas.fgdir, &cuadriculas.fghex, &cuadriculas.fgascii}) {
-        EXPECT_EQ(rejilla->BackColor(), (Color{10, 20, 30}));
-        EXPECT_EQ(rejilla->GridColor(), negro);
-    }
-    EXPECT_FALSE(botones[7].habilitado);
-    EXPECT_TRUE(std::all_of(botones.begin(), botones.begin() + 7, [](const BotonFalso& b) { return b.habilitado; }));
-    EXPECT_FALSE(form.edicion().edicionhabilitada);
-    EXPECT_EQ(form.edicion().cuentadigitos, 0);
-}
-
-// The skin comes from beside the program, then dresses the window, then the colour goes to
-// the buttons, the log and the grids; edit mode and a pending digit end on the way.
-TEST_F(Form1Test, ASkinFromTheMenuIsLoadedAppliedAndSpreadInThatOrder)
-{
-    Placa placa;
-    PuertoPlaca puerto(placa);
-    Form1 form(controles(), {puerto, reloj, avisos, skin, dialogo, abridor, "/opt/eeprog"});
-    form.Form_Load();
-    form.edit_Click();
-    form.edicion().cuentadigitos = 1;
-    const std::string log = txtinforme.texto();
-    bitacora.sucesos.clear();
-    skin.actual = Color{10, 20, 30};
-
-    form.MNUCamb_Click(1);
-
-    ASSERT_GE(bitacora.sucesos.size(), 4U);
-    EXPECT_EQ(bitacora.sucesos[0], "skin cargar /opt/eeprog/skins/galaxy.skn");
-    EXPECT_EQ(bitacora.sucesos[1], "skin aplicar");
-    EXPECT_EQ(bitacora.sucesos[2], "abrir color 10,20,30");
-    EXPECT_FALSE(form.edicion().edicionhabilitada);
-    EXPECT_EQ(form.edicion().cuentadigitos, 0);
-    EXPECT_EQ(botones[6].apariencia, Apariencia::tridimensional);
-    EXPECT_TRUE(botones[7].habilitado);
-    EXPECT_EQ(txtinforme.fondo, (Color{10, 20, 30}));
-    EXPECT_EQ(cuadriculas.fghex.GridColor(), negro);
-    EXPECT_EQ(txtinforme.texto(), log);
+    crear(puertoplaca, "/opt/eeprog");
+    botones[7].habilitado = false;
+    EXPECT_EQ(agregado(&Form1::edit_Click), "10:11:12... Opcion de Edicion Habilitada\r\n");
+    EXPECT_TRUE(botones[7].habilitado && form->edicion().edicionhabilitada);
+    form->opcionel_circuito_Click();
+    form->opcionprograma_Click();
+    EXPECT_EQ(abridor.abiertos,
+              (std::vector<std::string>{"/opt/eeprog/circuito/Eeprog.bmp", "/opt/eeprog/circuito/at28c64b.hex"}));
 }
 
 } // namespace
-} // namespace eeprog
+} // namespace eeprog::prueba

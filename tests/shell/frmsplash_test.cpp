@@ -2,45 +2,32 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 namespace eeprog {
 namespace {
 
-class ArranqueFalso : public Arranque {
-public:
-    std::vector<std::string> pasos;
-    void mostrarForm1() override { pasos.emplace_back("mostrar Form1"); }
-    void descargar() override { pasos.emplace_back("descargar"); }
+struct ArranqueFalso : Arranque {
+    std::string pasos;
+    void mostrarForm1() override { pasos += "mostrar "; }
+    void descargar() override { pasos += "descargar "; }
 };
 
-using Pasos = std::vector<std::string>;
-
-TEST(FrmSplashTest, WithNothingGivenTheMainWindowComesAtTheFirstTickAndTheSplashGoesAtTheFourth)
+// The main window comes at the first tick and the splash goes at the fourth. Before the first
+// tick, a key or a click is what brings the main window up, after the splash has gone.
+TEST(FrmSplashTest, TheTicksOrAKeyOrAClickCloseTheSplashAndShowTheMainWindow)
 {
     ArranqueFalso arranque;
     FrmSplash splash(arranque);
     splash.Form_Load();
-    splash.Timer1_Timer();
-    EXPECT_EQ(arranque.pasos, Pasos{"mostrar Form1"});
-    splash.Timer1_Timer();
-    splash.Timer1_Timer();
-    EXPECT_EQ(arranque.pasos, Pasos{"mostrar Form1"});
-    splash.Timer1_Timer();
-    EXPECT_EQ(arranque.pasos, (Pasos{"mostrar Form1", "descargar"}));
-    EXPECT_EQ(splash.cuentaticks(), 4);
-}
-
-// Before the first tick the key is what brings the main window up, after the splash has gone.
-TEST(FrmSplashTest, AKeyOrAClickClosesTheSplashFirstAndThenShowsTheMainWindow)
-{
-    for (auto dar : {&FrmSplash::Form_KeyPress, &FrmSplash::Form_MouseUp}) {
-        ArranqueFalso arranque;
-        FrmSplash splash(arranque);
-        splash.Form_Load();
-        (splash.*dar)();
-        EXPECT_EQ(arranque.pasos, (Pasos{"descargar", "mostrar Form1"}));
+    for (const char* tras : {"mostrar ", "mostrar ", "mostrar ", "mostrar descargar "}) {
+        splash.Timer1_Timer();
+        EXPECT_EQ(arranque.pasos, tras) << "tick " << splash.cuentaticks();
+    }
+    for (auto [nombre, dar] : {std::pair{"key", &FrmSplash::Form_KeyPress}, {"click", &FrmSplash::Form_MouseUp}}) {
+        ArranqueFalso otro;
+        FrmSplash nuevo(otro);
+        nuevo.Form_Load();
+        (nuevo.*dar)();
+        EXPECT_EQ(otro.pasos, "descargar mostrar ") << nombre;
     }
 }
 

@@ -1,146 +1,120 @@
+#include "emulador.h"
+#include "imagen.h"
 #include "placa.h"
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
 
-using eeprog::OpcionesPlaca;
-using eeprog::Placa;
-using Estado = eeprog::Placa::Estado;
+#include <filesystem>
+#include <fstream>
+#include <thread>
 
 namespace {
 
-// Sends each byte in turn and gathers the replies; a silent byte adds nothing.
-std::string conversar(Placa& placa, const std::string& enviado)
+using eeprog::prueba::Emulador;
+using namespace std::string_literals;
+
+// Each session is opened anew and gets its bytes one at a time; a silent byte adds nothing
+// to the replies. A frame is its order ("r" read, "w" write), a count, the address high
+// byte first, a type, and count bytes, which a read frame answers with the chip's bytes:
+// "w\2\1\x20\0AB" writes "AB" at 0x0120. What a session writes shows in what a read answers.
+TEST(Placa, AnswersEachConversationByteForByte)
 {
-    std::string respuestas;
-    for (char byte : enviado) {
-        if (auto respuesta = placa.recibir(static_cast<unsigned char>(byte))) {
-            respuestas += static_cast<char>(*respuesta);
+    const struct {
+        const char* nombre;
+        std::vector<std::pair<std::string, std::string>> sesiones; // bytes in, bytes out
+        eeprog::OpcionesPlaca opciones = {};
+    } casos[]{
+        {"IdleAnswersTheCheckAndEchoesAnyOtherByte", {{"c\0A\xFF\x10"s, "c\0A\xFF\x10"s}}},
+        // The pacing bytes are not echoed: a board that echoed them would answer 0, 1 and 2.
+        {"AReadFrameAnswersWhatAWriteFrameStored",
+         {{"w\2\1\x20\0ABr\3\1\x1F\0\0\1\2"s, "w\2\1\x20\0ABr\3\1\x1F\0\377AB"s}}},
+        // 0xFFFE falls on 0x1FFE, and a frame runs on past the chip's end to 0x0000.
+        {"AddressesWrapIntoTheChip", {{"w\4\xFF\xFE\0wxyzr\2\x3F\xFF\0.."s, "w\4\xFF\xFE\0wxyzr\2\x3F\xFF\0xy"s}}},
+        {"TypeIsIgnoredAndCountZeroEndsAFrame",
+         {{"w\1\0\2\1Ew\0\0\3\0r\2\0\2\0.."s, "w\1\0\2\1Ew\0\0\3\0r\2\0\2\0E\377"s}}},
+        {"ANewSessionForgetsAHalfFrame",
+         {{"w\2\0\x30\0a"s, "w\2\0\x30\0a"s}, {"br\2\0\x30\0.."s, "br\2\0\x30\0a\377"s}}},
+        {"MudaNeverAnswers", {{"cw\1\0\0\0M"s, ""}}, {.muda = true}},
+        // Whatever the first byte of a session, the board hangs after it.
+        {"SilenciosaAnswersTheFirstCheckOfEachSession",
+         {{"c", "c"}, {"ccw\1\0\0\0S"s, "c"}, {"rc", ""}},
+         {.silenciosa = true}},
+        // Data bytes written are counted over the board's life; the 5th, "E", is heard with
+        // its lowest bit flipped, and stored so.
+        {"EcoErroneoHearsTheNthDataByteWrong",
+         {{"w\3\0\x40\0ABC"s, "w\3\0\x40\0ABC"s},
+          {"w\3\0\x50\0DEFr\2\0\x50\0.."s, "w\3\0\x50\0DDFr\2\0\x50\0DD"s},
+          {"w\1\0\x60\0G"s, "w\1\0\x60\0G"s}},
+         {.ecoerroneo = 5}},
+    };
+    for (const auto& caso : casos) {
+        eeprog::Placa placa(caso.opciones);
+        for (const auto& [entrada, salida] : caso.sesiones) {
+            placa.conectar();
+            std::string respuestas;
+            for (char byte : entrada)
+                if (auto respuesta = placa.recibir(static_cast<unsigned char>(byte)))
+                    respuestas += char(*respuesta);
+            EXPECT_EQ(respuestas, salida) << caso.nombre;
         }
     }
+}
+
+// A short image, which fills the chip from address 0, goes through the program's test.
+TEST(ImagenPlaca, FilesThatCannotBeReadOrWrittenFail)
+{
+    std::array<unsigned char, 8192> chip{};
+    EXPECT_FALSE(eeprog::cargarimagen(testing::TempDir(), chip)); // a folder opens, but reads fail
+    EXPECT_FALSE(eeprog::cargarimagen("/nohay/imagen.bin", chip));
+    EXPECT_FALSE(eeprog::volcarimagen("/nohay/volcado.bin", chip));
+}
+
+// Each byte waits for its reply before the next goes; the talk ends at the first silence.
+std::string conversar(const std::string& ruta, const std::string& enviado)
+{
+    const int puerto = open(ruta.c_str(), O_RDWR | O_NOCTTY); // no settings: it must be raw
+    std::string respuestas;
+    for (char byte : enviado) {
+        pollfd vigilado{puerto, POLLIN, 0};
+        if (write(puerto, &byte, 1) != 1 || poll(&vigilado, 1, Emulador::paciencia) != 1 || read(puerto, &byte, 1) != 1)
+            break;
+        respuestas += byte;
+    }
+    close(puerto);
+    std::this_thread::sleep_for(Emulador::cambiodesesion); // for the emulator to see the close
     return respuestas;
 }
 
-std::string marco(char orden, int cuenta, int direccion, int tipo, const std::string& datos)
+// The program on a real pseudo-terminal, reached through its link; each conversation is a
+// session. --ritmo only delays the replies, which must still all come.
+TEST(EeprogPlaca, ServesSessionsDumpsTheChipOnExitAndRefusesBadOptions)
 {
-    std::string texto{orden, static_cast<char>(cuenta), static_cast<char>(direccion >> 8),
-                      static_cast<char>(direccion & 0xFF), static_cast<char>(tipo)};
-    return texto + datos;
-}
-
-std::string serie(int desde, int cuantos)
-{
-    std::string texto;
-    for (int i = 0; i < cuantos; ++i) {
-        texto += static_cast<char>(desde + i);
-    }
-    return texto;
+    std::string carpeta = testing::TempDir() + "eeprogplacaXXXXXX";
+    ASSERT_NE(mkdtemp(carpeta.data()), nullptr);
+    std::ofstream(carpeta + "/imagen.bin") << "xy";
+    Emulador emulador({"--imagen", carpeta + "/imagen.bin", "--volcado", carpeta + "/volcado.bin", "--enlace",
+                       carpeta + "/com1", "--ritmo"});
+    ASSERT_FALSE(emulador.ruta().empty());
+    // Bytes that a terminal left cooked would translate, swallow or wait on; then a half
+    // frame, which the next session must not take up.
+    EXPECT_EQ(conversar(carpeta + "/com1", "cw\3\0\x10\0\r\x11\0w\1\0\x20\0"s), "cw\3\0\x10\0\r\x11\0w\1\0\x20\0"s);
+    EXPECT_EQ(conversar(emulador.ruta(), "r\1\0\x20\0\0"s), "r\1\0\x20\0\xFF"s);
+    EXPECT_EQ(emulador.terminar(), 0);
+    EXPECT_FALSE(std::filesystem::is_symlink(carpeta + "/com1"));
+    std::array<unsigned char, 8192> chip{};
+    EXPECT_EQ(std::filesystem::file_size(carpeta + "/volcado.bin"), 8192u);
+    EXPECT_TRUE(eeprog::cargarimagen(carpeta + "/volcado.bin", chip));
+    EXPECT_EQ(std::string(chip.begin(), chip.begin() + 3) + std::string(chip.begin() + 0x10, chip.begin() + 0x14),
+              "xy\xFF\r\x11\0\xFF"s);
+    std::filesystem::remove_all(carpeta);
+    EXPECT_EQ(Emulador({"--nada"}).fin(), 2);
+    EXPECT_EQ(Emulador({"--eco-erroneo", "0"}).fin(), 2);
+    EXPECT_EQ(Emulador({"sobra"}).fin(), 2);
+    EXPECT_EQ(Emulador({"--imagen", "/nohay/imagen.bin"}).fin(), 1);
 }
 
 } // namespace
-
-TEST(Placa, IdleAnswersTheCheckAndEchoesAnyOtherByte)
-{
-    Placa placa;
-    EXPECT_EQ(conversar(placa, "c"), "c");
-    EXPECT_EQ(conversar(placa, std::string("\x00\x41\xFF\x10", 4)), std::string("\x00\x41\xFF\x10", 4));
-    EXPECT_EQ(placa.estado(), Estado::reposo);
-    EXPECT_EQ(placa.chip()[0], 0xFF);
-}
-
-TEST(Placa, AReadFrameEchoesItsHeaderAndAnswersFromTheChip)
-{
-    Placa placa;
-    for (int i = 0; i < 16; ++i) {
-        placa.chip()[0x0120 + i] = static_cast<unsigned char>(0xA0 + i);
-    }
-    const auto antes = placa.chip();
-    std::string cabecera = marco('r', 16, 0x0120, 0, "");
-    EXPECT_EQ(conversar(placa, cabecera.substr(0, 1)), "r");
-    EXPECT_EQ(placa.estado(), Estado::cuentalectura);
-    EXPECT_EQ(conversar(placa, cabecera.substr(1)), cabecera.substr(1));
-    EXPECT_EQ(placa.estado(), Estado::datoslectura);
-    // Pacing bytes 0x00 to 0x0F: a board that echoed them would answer those instead.
-    EXPECT_EQ(conversar(placa, serie(0, 16)), serie(0xA0, 16));
-    EXPECT_EQ(placa.estado(), Estado::reposo);
-    EXPECT_EQ(placa.chip(), antes);
-}
-
-TEST(Placa, AddressesWrapIntoTheChip)
-{
-    Placa placa;
-    // 0xFFFE falls on 0x1FFE, and the frame runs on past the chip's end to 0x0000.
-    conversar(placa, marco('w', 4, 0xFFFE, 0, "wxyz"));
-    EXPECT_EQ(placa.chip()[0x1FFE], 'w');
-    EXPECT_EQ(placa.chip()[0x1FFF], 'x');
-    EXPECT_EQ(placa.chip()[0x0000], 'y');
-    EXPECT_EQ(placa.chip()[0x0001], 'z');
-    EXPECT_EQ(conversar(placa, marco('r', 2, 0x3FFF, 0, "..")).substr(5), "xy");
-}
-
-TEST(Placa, AWriteFrameTakesUpTo255Bytes)
-{
-    Placa placa;
-    std::string datos = serie(1, 255);
-    std::string escrito = marco('w', 255, 0x0100, 0, datos);
-    EXPECT_EQ(conversar(placa, escrito.substr(0, 5)), escrito.substr(0, 5));
-    EXPECT_EQ(placa.estado(), Estado::datosescritura);
-    EXPECT_EQ(conversar(placa, datos), datos);
-    EXPECT_EQ(placa.estado(), Estado::reposo);
-    EXPECT_EQ(placa.chip()[0x00FF], 0xFF);
-    EXPECT_EQ(placa.chip()[0x01FF], 0xFF);
-    EXPECT_EQ(conversar(placa, marco('r', 255, 0x0100, 0, std::string(255, '\0'))).substr(5), datos);
-}
-
-TEST(Placa, TypeIsIgnoredAndACountOfZeroEndsTheFrame)
-{
-    Placa placa;
-    conversar(placa, marco('w', 1, 0x0002, 0x01, "E") + marco('w', 1, 0x0003, 0x04, "F"));
-    EXPECT_EQ(placa.chip()[0x0002], 'E');
-    EXPECT_EQ(placa.chip()[0x0003], 'F');
-    conversar(placa, marco('w', 0, 0x0004, 0, ""));
-    EXPECT_EQ(placa.estado(), Estado::reposo);
-    conversar(placa, "c");
-    EXPECT_EQ(placa.chip()[0x0004], 0xFF);
-}
-
-TEST(Placa, ANewSessionForgetsAHalfFrame)
-{
-    Placa placa;
-    conversar(placa, marco('w', 2, 0x0030, 0, "a"));
-    placa.conectar();
-    EXPECT_EQ(placa.estado(), Estado::reposo);
-    EXPECT_EQ(conversar(placa, "b"), "b");
-    EXPECT_EQ(placa.chip()[0x0031], 0xFF);
-}
-
-TEST(Placa, MudaNeverAnswers)
-{
-    Placa placa(OpcionesPlaca{.muda = true});
-    EXPECT_EQ(conversar(placa, std::string("c") + marco('w', 1, 0, 0, "M")), "");
-    EXPECT_EQ(placa.chip()[0], 0xFF);
-}
-
-TEST(Placa, SilenciosaHangsAfterTheCheckUntilReopened)
-{
-    Placa placa(OpcionesPlaca{.silenciosa = true});
-    EXPECT_EQ(conversar(placa, "c"), "c");
-    EXPECT_EQ(conversar(placa, std::string("c") + marco('w', 1, 0, 0, "S")), "");
-    EXPECT_EQ(placa.chip()[0], 0xFF);
-    placa.conectar();
-    EXPECT_EQ(conversar(placa, "cc"), "c");
-    placa.conectar();
-    EXPECT_EQ(conversar(placa, "rc"), "");
-}
-
-TEST(Placa, EcoErroneoHearsTheNthDataByteWrong)
-{
-    Placa placa(OpcionesPlaca{.ecoerroneo = 5});
-    EXPECT_EQ(conversar(placa, marco('w', 3, 0x0040, 0, "ABC")), marco('w', 3, 0x0040, 0, "ABC"));
-    conversar(placa, marco('r', 4, 0x0040, 0, "...."));
-    placa.conectar();
-    EXPECT_EQ(conversar(placa, marco('w', 3, 0x0050, 0, "DEF")), marco('w', 3, 0x0050, 0, "DDF"));
-    EXPECT_EQ(placa.chip()[0x0051], 'D');
-    EXPECT_EQ(conversar(placa, marco('w', 1, 0x0060, 0, "G")).back(), 'G');
-}
