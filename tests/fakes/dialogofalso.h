@@ -9,20 +9,16 @@ namespace eeprog::prueba {
 
 // The open and save dialog without a screen: the test says what the user picks next.
 struct DialogoFalso : Dialogo, Grabador {
-    struct Mostrado {
-        bool guardar;
-        std::string ajustes; // "Filter FilterIndex DefaultExt Flags", as shown
-    };
     using Grabador::Grabador;
-    std::optional<std::string> elegir; // the next showing picks it; with nothing, the user cancels
-    std::vector<Mostrado> mostrados;
+    std::optional<std::string> elegir;  // the next showing picks it; with nothing, the user cancels
+    std::vector<std::string> mostrados; // "Filter FilterIndex DefaultExt Flags" of each showing
 
-    bool ShowOpen() override { return mostrar(false); }
-    bool ShowSave() override { return mostrar(true); }
-    bool mostrar(bool guardar)
+    bool ShowOpen() override { return mostrar("dialogo abrir"); }
+    bool ShowSave() override { return mostrar("dialogo guardar"); }
+    bool mostrar(const std::string& suceso)
     {
         const std::string ajustes = std::to_string(FilterIndex) + " " + DefaultExt + " " + std::to_string(Flags);
-        mostrados.push_back({anotar(guardar ? "dialogo guardar" : "dialogo abrir", guardar), Filter + " " + ajustes});
+        mostrados.push_back(anotar(suceso, Filter + " " + ajustes));
         if (!elegir)
             return false;
         FileName = *std::exchange(elegir, std::nullopt);

@@ -21,13 +21,12 @@ inline std::string textocolor(Color c)
     return std::to_string(c.rojo) + "," + std::to_string(c.verde) + "," + std::to_string(c.azul);
 }
 
-struct CajaFalsa : CajaTexto, Grabador {
-    using Grabador::Grabador;
+struct CajaFalsa : CajaTexto {
     std::string contenido;
     Color fondo;
     std::string texto() const override { return contenido; }
-    void ponertexto(const std::string& texto) override { contenido = anotar("informe " + texto, texto); }
-    void ponercolor(Color c) override { fondo = anotar("informe color " + textocolor(c), c); }
+    void ponertexto(const std::string& texto) override { contenido = texto; }
+    void ponercolor(Color c) override { fondo = c; }
 };
 
 struct PanelesFalsos : Paneles, Grabador {
@@ -41,18 +40,16 @@ struct PanelesFalsos : Paneles, Grabador {
 
 struct BarraFalsa : BarraProgreso {
     double tope = 100, actual = 0;
-    std::vector<double> valores; // every value set, in order
     void maximo(double v) override { tope = v; }
-    void valor(double v) override { valores.push_back(actual = v); }
+    void valor(double v) override { actual = v; }
 };
 
-struct AvisosFalsos : Avisos, Grabador {
-    using Grabador::Grabador;
+struct AvisosFalsos : Avisos {
     std::vector<Aviso> mostrados;
     std::function<void()> almostrar; // runs while the box "is on the screen"
     void mostrar(const Aviso& aviso) override
     {
-        mostrados.push_back(anotar("aviso " + aviso.titulo, aviso));
+        mostrados.push_back(aviso);
         if (almostrar)
             almostrar();
     }
@@ -72,10 +69,9 @@ struct SkinFalso : Skin, Grabador {
 };
 
 // The desktop's opener: it keeps the paths it was asked to open.
-struct AbridorFalso : Abridor, Grabador {
-    using Grabador::Grabador;
+struct AbridorFalso : Abridor {
     std::vector<std::string> abiertos;
-    void abrir(const std::string& ruta) override { abiertos.push_back(anotar("abrir " + ruta, ruta)); }
+    void abrir(const std::string& ruta) override { abiertos.push_back(ruta); }
 };
 
 struct BotonFalso : Boton, Grabador {

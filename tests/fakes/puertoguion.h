@@ -16,23 +16,16 @@ struct PuertoGuion : Puerto, Grabador {
     // Called with each text written to an open port, to script the board's answer.
     std::function<void(const std::string&)> alescribir;
 
-    bool abrible = true, abiertoahora = false;
-    int lecturas = 0, esperas = 0, aperturas = 0;
-    std::string enviados;
+    bool abiertoahora = false;
+    int lecturas = 0;
     std::vector<std::pair<int, std::string>> pendientes; // the read they arrive at, and the bytes
 
-    bool abrir() override
-    {
-        aperturas += abrible;
-        return abiertoahora = anotar("abrir", abrible);
-    }
+    bool abrir() override { return abiertoahora = anotar("abrir", true); }
     void cerrar() override { abiertoahora = anotar("cerrar", false); }
     bool abierto() const override { return abiertoahora; }
     void escribir(const std::string& datos) override
     {
-        if (anotar("escribir " + datos, abiertoahora))
-            enviados += datos;
-        if (abiertoahora && alescribir)
+        if (anotar("escribir " + datos, abiertoahora) && alescribir)
             alescribir(datos);
     }
     std::string leer() override
@@ -42,7 +35,7 @@ struct PuertoGuion : Puerto, Grabador {
         std::erase_if(pendientes, [&](const auto& p) { return p.first <= lecturas && (llegado += p.second, true); });
         return anotar("leer", llegado);
     }
-    void esperar(int milisegundos) override { esperas += anotar("esperar " + std::to_string(milisegundos), 1); }
+    void esperar(int milisegundos) override { anotar("esperar " + std::to_string(milisegundos)); }
 };
 
 } // namespace eeprog::prueba

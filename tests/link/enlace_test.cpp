@@ -10,8 +10,7 @@ namespace {
 using namespace prueba;
 using namespace std::string_literals;
 
-class EnlaceTest : public ::testing::Test {
-protected:
+struct EnlaceTest : ::testing::Test {
     Bitacora bitacora;
     PuertoGuion puerto{&bitacora};
     Enlace enlace{puerto};
@@ -19,7 +18,7 @@ protected:
     RelojFijo reloj;
     Informe informe{caja, reloj};
     PanelesFalsos paneles{&bitacora};
-    AvisosFalsos avisos{&bitacora};
+    AvisosFalsos avisos;
     SkinFalso skin;
     BotonFalso boton{"leer", &bitacora};
     Marco marco{enlace, {paneles, informe, avisos, skin}};
@@ -29,30 +28,26 @@ protected:
 // still in the port for the next: the two sides then run one behind.
 TEST_F(EnlaceTest, AnExchangeSendsThenPausesAndReadsUntilAReplyOrAHundredReads)
 {
-    const struct {
-        const char* nombre;
-        std::string llega, envia, respuesta; // llega: what arrives, at read enlalectura from now
-        int enlalectura, lecturas;           // lecturas: reads taken, each after a 1 ms pause
-    } casos[]{
-        {"ReplyAlreadyIn", "c", "c", "c", 1, 1},
-        {"NoReplyIsErrorAfterAHundredReads", "", "c", "Error", 1, 100},
-        {"ReplyAtTheHundredthRead", "x", "c", "x", 100, 100},
-        {"ReplyAtTheHundredAndFirstReadIsTooLate", "1", "a", "Error", 101, 100},
-        {"TheNextExchangeTakesTheLateReply", "2", "b", "1", 5, 1},
-        {"AndTheOneAfterItTakesTheNextReply", "", "c", "2", 1, 4},
-        {"TwoBytesAreOneReply", "cc", "c", "cc", 1, 1},
-        {"AByteZeroIsAReply", "\0"s, "\0"s, "\0"s, 3, 3},
-        {"AnEmptyTextSendsNothingAndWaitsOutItsTries", "", "", "Error", 1, 100},
+    // label, what arrives, at which read from now, what is sent, the reply, the reads taken (each after a 1 ms pause)
+    const std::tuple<const char*, std::string, int, std::string, std::string, int> casos[]{
+        {"ReplyAlreadyIn", "c", 1, "c", "c", 1},
+        {"NoReplyIsErrorAfterAHundredReads", "", 1, "c", "Error", 100},
+        {"ReplyAtTheHundredthRead", "x", 100, "c", "x", 100},
+        {"ReplyAtTheHundredAndFirstReadIsTooLate", "1", 101, "a", "Error", 100},
+        {"TheNextExchangeTakesTheLateReply", "2", 5, "b", "1", 1},
+        {"AndTheOneAfterItTakesTheNextReply", "", 1, "c", "2", 4},
+        {"TwoBytesAreOneReply", "cc", 1, "c", "cc", 1},
+        {"AByteZeroIsAReply", "\0"s, 3, "\0"s, "\0"s, 3},
+        {"AnEmptyTextSendsNothingAndWaitsOutItsTries", "", 1, "", "Error", 100},
     };
     enlace.serial();
-    for (const auto& caso : casos) {
-        puerto.llegara(caso.llega, caso.enlalectura);
-        bitacora.sucesos.clear();
-        EXPECT_EQ(enlace.intercambio(caso.envia), caso.respuesta) << caso.nombre;
-        std::vector<std::string> esperado{"escribir " + caso.envia};
-        for (int i = 0; i < caso.lecturas; ++i)
+    for (const auto& [nombre, llega, enlalectura, envia, respuesta, lecturas] : casos) {
+        puerto.llegara(llega, enlalectura), bitacora.sucesos.clear();
+        EXPECT_EQ(enlace.intercambio(envia), respuesta) << nombre;
+        std::vector<std::string> esperado{"escribir " + envia};
+        for (int i = 0; i < lecturas; ++i)
             esperado.insert(esperado.end(), {"esperar 1", "leer"});
-        EXPECT_EQ(bitacora.sucesos, esperado) << caso.nombre;
+        EXPECT_EQ(bitacora.sucesos, esperado) << nombre;
     }
 }
 

@@ -67,8 +67,7 @@ TEST(Intake, TakesEveryPairInFileOrderWithTheQuirksOfTheWalk)
     // clang-format on
     for (const auto& [nombre, cargar, texto, desde, vector, totalvector] : filas) {
         Registros registros;
-        registros.vector.fill(-7);
-        cargar(texto, registros);
+        registros.vector.fill(-7), cargar(texto, registros);
         const auto hasta = registros.vector.begin() + desde + static_cast<long>(vector.size());
         EXPECT_EQ(std::vector<int>(registros.vector.begin() + desde, hasta), vector) << nombre;
         EXPECT_TRUE(std::all_of(hasta, registros.vector.end(), [](int v) { return v == -7; })) << nombre;
@@ -80,8 +79,7 @@ TEST(Intake, TakesEveryPairInFileOrderWithTheQuirksOfTheWalk)
 struct MostrarVector : ::testing::Test {
     void mostrar(const std::string& texto, const std::string& nombre = "/datos/prueba.hex")
     {
-        dibujareditor(cuadriculas), registros = {};
-        caja.contenido.clear();
+        dibujareditor(cuadriculas), registros = {}, caja.contenido.clear();
         archivo = {texto, nombre, nombre.substr(nombre.rfind('/') + 1)};
         ponerenvector(archivo, registros, avisos);
         mostrarvector(registros, archivo, {cuadriculas, StatusBar1, informe});

@@ -24,7 +24,6 @@ const std::string viejo = ":0300300002337A1E\r\n:00000001FF\r\n",
 struct Disco : ::testing::Test {
     void SetUp() override
     {
-        carpeta = testing::TempDir() + "discoXXXXXX";
         ASSERT_NE(mkdtemp(carpeta.data()), nullptr);
         ASSERT_EQ(chmod(carpeta.c_str(), 0777), 0);
         archivo = carpeta + "/a.hex";
@@ -37,7 +36,7 @@ struct Disco : ::testing::Test {
     // clang-format on
     long archivos() const { return std::distance(fs::directory_iterator(carpeta), fs::directory_iterator()); }
 
-    std::string carpeta, archivo;
+    std::string carpeta = testing::TempDir() + "discoXXXXXX", archivo;
 };
 
 // Runs paso in a child process and gives back its answer; as root, the child first becomes the

@@ -6,8 +6,7 @@
 namespace eeprog::prueba {
 
 // A run from its first window: the splash, with the main window made over the fakes.
-class ArranqueTest : public VentanaPrueba {
-protected:
+struct ArranqueTest : VentanaPrueba {
     void SetUp() override {}
     Programa programa{[this] { return crear(); }};
     QPointer<VentanaSplash> splash = programa.frmSplash();

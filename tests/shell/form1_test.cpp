@@ -4,6 +4,7 @@ namespace eeprog::prueba {
 namespace {
 
 using Form1Test = FormPrueba;
+using namespace std::string_literals;
 
 // The first line replaces whatever the log held. The check reports to the log alone.
 TEST_F(Form1Test, StartUpLogsThreeLinesSayingWhetherTheBoardAnswered)
@@ -26,8 +27,9 @@ TEST_F(Form1Test, StartUpLogsThreeLinesSayingWhetherTheBoardAnswered)
 
 // At start-up and from the menu the skin dresses the window, then its colour goes to the
 // buttons, the log and the grids. The menu's skin is loaded from beside the program first;
-// edit mode and a pending digit end on the way.
-TEST_F(Form1Test, TheSkinDressesTheWindowAtStartUpAndFromTheMenuWhichEndsEditMode)
+// edit mode, which EDITAR began, and a pending digit end on the way. The circuit entries hand
+// the documents beside the program to the desktop.
+TEST_F(Form1Test, TheSkinDressesTheWindowEndingEditModeAndTheFilesBesideTheProgramAreFound)
 {
     const auto vestida = [&](Color color) {
         for (const BotonFalso& boton : botones)
@@ -43,32 +45,20 @@ TEST_F(Form1Test, TheSkinDressesTheWindowAtStartUpAndFromTheMenuWhichEndsEditMod
     vestida(skin.actual);
     EXPECT_EQ(cuadriculas.fgdir.TextMatrix(filasrejilla - 1, 0), "FFF0") << "the grids are drawn";
     const std::vector<std::string> inicio = pasos();
-    EXPECT_EQ(inicio.front(), "skin aplicar");
-    EXPECT_EQ(inicio.back(), "editado deshabilitado");
+    EXPECT_EQ(std::pair(inicio.front(), inicio.back()), std::pair("skin aplicar"s, "editado deshabilitado"s));
 
-    form->edit_Click();
+    EXPECT_EQ(agregado(&Form1::edit_Click), "10:11:12... Opcion de Edicion Habilitada\r\n");
+    EXPECT_TRUE(botones[7].habilitado && form->edicion().edicionhabilitada);
     form->edicion().cuentadigitos = 1;
     pasos();
-    skin.actual = Color{1, 2, 3};
-    form->MNUCamb_Click(1);
+    skin.actual = Color{1, 2, 3}, form->MNUCamb_Click(1);
     vestida(skin.actual);
     EXPECT_FALSE(form->edicion().edicionhabilitada || form->edicion().cuentadigitos);
     EXPECT_TRUE(botones[7].habilitado && botones[6].apariencia == Apariencia::tridimensional);
     EXPECT_EQ(
         std::vector(bitacora.sucesos.begin(), bitacora.sucesos.begin() + 3),
         (std::vector<std::string>{"skin cargar /opt/eeprog/skins/galaxy.skn", "skin aplicar", "abrir color 1,2,3"}));
-}
-
-// EDITAR enables EDITADO and says so; the circuit entries hand the documents beside the
-// program to the desktop.
-TEST_F(Form1Test, EditarAndTheCircuitEntries)
-{
-    crear(puertoplaca, "/opt/eeprog");
-    botones[7].habilitado = false;
-    EXPECT_EQ(agregado(&Form1::edit_Click), "10:11:12... Opcion de Edicion Habilitada\r\n");
-    EXPECT_TRUE(botones[7].habilitado && form->edicion().edicionhabilitada);
-    form->opcionel_circuito_Click();
-    form->opcionprograma_Click();
+    form->opcionel_circuito_Click(), form->opcionprograma_Click();
     EXPECT_EQ(abridor.abiertos,
               (std::vector<std::string>{"/opt/eeprog/circuito/Eeprog.bmp", "/opt/eeprog/circuito/at28c64b.hex"}));
 }

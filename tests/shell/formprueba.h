@@ -7,6 +7,7 @@
 #include "pantallafalsa.h"
 #include "placa.h"
 #include "puertoplaca.h"
+#include "records/disco.h"
 #include "shell/form1.h"
 
 #include <gmock/gmock.h>
@@ -18,11 +19,10 @@ namespace eeprog::prueba {
 
 // The main window's logic over recording controls, a fake dialog and the board in the same
 // process (or a port the test gives), with a temporary folder for its files.
-class FormPrueba : public ::testing::Test {
-protected:
-    static void SetUpTestSuite() { dibujareditor(inicial); }
+struct FormPrueba : ::testing::Test {
     void SetUp() override
     {
+        dibujareditor(cuadriculas);
         ASSERT_NE(mkdtemp(carpeta.data()), nullptr);
         crear(puertoplaca);
     }
@@ -59,7 +59,6 @@ protected:
         return std::exchange(bitacora.sucesos, {});
     }
 
-    static inline Cuadriculas inicial;
     std::string carpeta = testing::TempDir() + "formXXXXXX";
     Bitacora bitacora;
     CajaFalsa txtinforme;
@@ -69,7 +68,7 @@ protected:
                                       BotonFalso{"leer", &bitacora},   BotonFalso{"borrar", &bitacora},
                                       BotonFalso{"grabar", &bitacora}, BotonFalso{"verificar", &bitacora},
                                       BotonFalso{"edit", &bitacora},   BotonFalso{"editado", &bitacora}};
-    Cuadriculas cuadriculas = inicial;
+    Cuadriculas cuadriculas;
     DialogoFalso dialogo;
     RelojFijo reloj;
     AvisosFalsos avisos;

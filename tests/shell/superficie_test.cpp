@@ -4,8 +4,7 @@
 
 namespace eeprog::prueba {
 
-class SuperficieTest : public VentanaPrueba {
-protected:
+struct SuperficieTest : VentanaPrueba {
     // What a person sees: the log, the chip, the panels, the bar, the dialogs, the buttons' looks.
     std::string resultado()
     {
@@ -28,8 +27,7 @@ TEST_F(SuperficieTest, EachButtonAndItsMenuEntryGiveTheSameResult)
     for (int boton = 0; boton < 7; ++boton) {
         std::string resultados[2];
         for (const bool pormenu : {false, true}) {
-            placa = Placa{};
-            abrir();
+            placa = Placa{}, abrir(); // a fresh board and window
             dialogo->elegir = archivo;
             pormenu ? entrada(entradas[boton]).trigger() : clic(ventana->boton(boton));
             resultados[pormenu] = resultado();

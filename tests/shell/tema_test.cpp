@@ -17,11 +17,8 @@ constexpr Color blanco{255, 255, 255};
 TEST(TemaTest, ASkinFileGivesEachColourItsRoleFillsTheRestFromColourAndNothingWhenBroken)
 {
     constexpr Color gris{0x80, 0x80, 0x80}, oscuro{0x7F, 0x7F, 0x7F}, claro{0xDD, 0xF7, 0xE0};
-    const struct {
-        const char* nombre;
-        const char* texto;
-        Tema tema;
-    } casos[]{
+    const std::tuple<const char*, const char*, Tema> casos[]{
+        // label, file, skin
         {"full",
          "; a comment\r\n\r\nnombre = Galaxy\r\ncolor = #A9B1DE\r\nventana=#2B3150\r\npanel = #464f7e\r\ntexto = "
          "#E8EAF6\r\ntextopanel = #FFFFFF\r\nresalte = #7E57C2\r\ntextoresalte = #000000\r\nbrillo = 3\r\n",
@@ -30,8 +27,8 @@ TEST(TemaTest, ASkinFileGivesEachColourItsRoleFillsTheRestFromColourAndNothingWh
         {"dark window",
          "color = #DDF7E0\nventana = #7F7F7F\n",
          {"", claro, oscuro, oscuro, blanco, blanco, oscuro, blanco}}};
-    for (const auto& caso : casos)
-        EXPECT_EQ(leertema(caso.texto), caso.tema) << caso.nombre;
+    for (const auto& [nombre, texto, tema] : casos)
+        EXPECT_EQ(leertema(texto), tema) << nombre;
     for (const char* roto :
          {"", "; only a comment\n", "nombre = Sin color\n", "color = DDF7E0\n", "color = #DDF7E\n", "color = #GGF7E0\n",
           "color = #DDF7E0\nventana = azul\n", "color = #DDF7E0\nrojo y verde\n", "\x89PNG\r\n\x1a\n"})

@@ -27,9 +27,7 @@ TEST_F(VentanaTest, ANewLogLineMovesNeitherTheViewNorTheCaret)
     QScrollBar& barra = *log.verticalScrollBar();
     EXPECT_EQ(std::pair(barra.value(), log.textCursor().position()), std::pair(0, 0));
     QTextCursor caret = log.textCursor();
-    caret.setPosition(10);
-    log.setTextCursor(caret);
-    barra.setValue(3);
+    caret.setPosition(10), log.setTextCursor(caret), barra.setValue(3);
     informe.linea("... Programacion Concluida!!!");
     EXPECT_EQ(std::pair(barra.value(), log.textCursor().position()), std::pair(3, 10));
 }
@@ -48,21 +46,19 @@ TEST_F(VentanaTest, TabRunsThroughTheControlsSpacePressesAButtonAndShortcutsReac
     const QString pasos = "fghex fgdir txtinforme abrir guardar leer borrar grabar verificar edit fgascii fghex "
                           "<fgascii <edit <verificar";
     EXPECT_EQ(recorrer(pasos), pasos);
-    tecla(Qt::Key_Tab, {});
-    tecla(Qt::Key_Space, {});
+    tecla(Qt::Key_Tab, {}), tecla(Qt::Key_Space, {});
     EXPECT_TRUE(ventana->boton(7).isEnabled()) << "EDITAR was pressed";
     EXPECT_EQ(recorrer("editado fgascii"), "editado fgascii");
-    tecla(Qt::Key_A);
-    tecla(Qt::Key_G);
-    EXPECT_TRUE(dialogo->mostrados.size() == 2 && !dialogo->mostrados[0].guardar && dialogo->mostrados[1].guardar);
+    bitacora.sucesos.clear();
+    tecla(Qt::Key_A), tecla(Qt::Key_G);
+    EXPECT_EQ(bitacora.sucesos, (std::vector<std::string>{"dialogo abrir", "dialogo guardar"}));
 }
 
 // A board that logs each opening and, at the first byte after, has the user click buttons.
-struct PuertoImpaciente : PuertoPlaca {
-    PuertoImpaciente(Placa& placa, Bitacora& bitacora) : PuertoPlaca(placa), bitacora(bitacora) {}
-    Bitacora& bitacora;
+struct PuertoImpaciente : PuertoPlaca, Grabador {
+    PuertoImpaciente(Placa& placa, Bitacora* bitacora) : PuertoPlaca(placa), Grabador(bitacora) {}
     std::vector<QWidget*> botones;
-    bool abrir() override { return bitacora.anotar("abrir"), PuertoPlaca::abrir(); }
+    bool abrir() override { return anotar("abrir"), PuertoPlaca::abrir(); }
     void escribir(const std::string& datos) override
     {
         for (QWidget* boton : std::exchange(botones, {}))
@@ -76,7 +72,7 @@ struct PuertoImpaciente : PuertoPlaca {
 
 TEST_F(VentanaTest, ClicksGivenWhileAnOperationRunsAreServedAfterItInTheirOrder)
 {
-    auto* impaciente = new PuertoImpaciente(placa, bitacora);
+    auto* impaciente = new PuertoImpaciente(placa, &bitacora);
     abrir(std::unique_ptr<Puerto>(impaciente));
     bitacora.sucesos.clear();
     impaciente->botones = {&ventana->boton(1), &ventana->boton(2)}; // GUARDAR, then LEER again
@@ -97,6 +93,34 @@ TEST_F(VentanaTest, CtrlXAndTheCloseBoxEndTheRunWithNoQuestion)
         });
         EXPECT_EQ(QCoreApplication::exec(), 0) << (cerrar ? "close box" : "Ctrl+X");
     }
+}
+
+// The grid widgets, checked against the grids they show: moving fgascii's bar moves all three
+// grids, whose rows then line up; a click makes the cell under the pointer current, once.
+TEST_F(VentanaTest, TheScrollBarAndTheGridsTopRowMoveTogetherAndAClickMakesACellCurrent)
+{
+    Rejillas& v = ventana->rejillas();
+    v.fgascii().verticalScrollBar()->setValue(2048);
+    for (VistaRejilla* vista : {&v.fgdir(), &v.fghex(), &v.fgascii()}) {
+        EXPECT_EQ(std::pair(vista->rejilla().TopRow(), vista->verticalScrollBar()->value()), std::pair(2048, 2048));
+        EXPECT_EQ(vista->rectangulocelda(2050, 0).top(), v.fgascii().rectangulocelda(2050, 0).top());
+    }
+    c().fghex.TopRow(300); // brings row 302 into sight
+    int entradas = 0;
+    c().fghex.EnterCell = [&] { ++entradas; };
+    clic(c().fghex, 302, 7), clic(c().fghex, 302, 7);
+    EXPECT_EQ(std::tuple(c().fghex.Row(), c().fghex.Col(), entradas), std::tuple(302, 7, 1));
+}
+
+TEST_F(VentanaTest, CellsAreDrawnWhereTheGridPutsThem)
+{
+    VistaRejilla& fghex = ventana->rejillas().fghex();
+    c().fghex.BackColor({255, 0, 0}), c().fghex.GridColor({0, 0, 0}), c().fghex.TextMatrix(2, 3, "");
+    const QImage imagen = fghex.grab().toImage();
+    const QRect celda = fghex.rectangulocelda(2, 3);
+    EXPECT_EQ(imagen.pixelColor(celda.center() + QPoint(0, 2)), QColor(255, 0, 0));
+    EXPECT_EQ(imagen.pixelColor(celda.right(), celda.center().y()), QColor(0, 0, 0));
+    EXPECT_EQ(imagen.pixelColor(celda.center().x(), celda.bottom()), QColor(0, 0, 0));
 }
 
 } // namespace eeprog::prueba

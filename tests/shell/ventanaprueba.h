@@ -20,39 +20,34 @@
 
 namespace eeprog::prueba {
 
-class TimbreFalso : public Timbre {
-public:
+struct TimbreFalso : Timbre {
     int pitidos = 0;
     void Beep() override { ++pitidos; }
 };
 
 // The real main window on Qt's offscreen platform over recording fakes, with the board in
 // the same process and the skins of the source tree beside it.
-class VentanaPrueba : public ::testing::Test {
-protected:
+struct VentanaPrueba : ::testing::Test {
     static void SetUpTestSuite() { crearaplicacion(); }
     void SetUp() override { abrir(); }
 
-    // A window over fresh fakes; without a port given, the fixture's board answers on `puerto`.
-    std::unique_ptr<VentanaForm1> crear(std::unique_ptr<Puerto> otro = nullptr,
-                                        std::filesystem::path directorio = EEPROG_FUENTES)
+    // A window over fresh fakes; without a port given, the fixture's board answers.
+    std::unique_ptr<VentanaForm1> crear(std::unique_ptr<Puerto> otro = nullptr)
     {
         if (!otro)
-            otro.reset(puerto = new PuertoPlaca(placa));
+            otro = std::make_unique<PuertoPlaca>(placa);
         auto nuevodialogo = std::make_unique<DialogoFalso>(&bitacora);
         auto nuevotimbre = std::make_unique<TimbreFalso>();
-        dialogo = nuevodialogo.get();
-        timbre = nuevotimbre.get();
+        dialogo = nuevodialogo.get(), timbre = nuevotimbre.get();
         return std::make_unique<VentanaForm1>(Dependencias{
             std::move(otro), std::make_unique<AvisosFalsos>(), std::make_unique<RelojFijo>(), std::move(nuevodialogo),
-            std::move(nuevotimbre), std::make_unique<AbridorFalso>(), std::move(directorio)});
+            std::move(nuevotimbre), std::make_unique<AbridorFalso>(), EEPROG_FUENTES});
     }
     // The window made, shown and active, in place of any before it.
-    void abrir(std::unique_ptr<Puerto> otro = nullptr, std::filesystem::path directorio = EEPROG_FUENTES)
+    void abrir(std::unique_ptr<Puerto> otro = nullptr)
     {
-        ventana = crear(std::move(otro), std::move(directorio));
-        ventana->show();
-        ventana->activateWindow();
+        ventana = crear(std::move(otro));
+        ventana->show(), ventana->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
     }
 
@@ -73,7 +68,6 @@ protected:
     Placa placa;
     Bitacora bitacora;
     std::unique_ptr<VentanaForm1> ventana;
-    PuertoPlaca* puerto = nullptr;
     DialogoFalso* dialogo = nullptr;
     TimbreFalso* timbre = nullptr;
 };

@@ -64,15 +64,6 @@ TEST(Placa, AnswersEachConversationByteForByte)
     }
 }
 
-// A short image, which fills the chip from address 0, goes through the program's test.
-TEST(ImagenPlaca, FilesThatCannotBeReadOrWrittenFail)
-{
-    std::array<unsigned char, 8192> chip{};
-    EXPECT_FALSE(eeprog::cargarimagen(testing::TempDir(), chip)); // a folder opens, but reads fail
-    EXPECT_FALSE(eeprog::cargarimagen("/nohay/imagen.bin", chip));
-    EXPECT_FALSE(eeprog::volcarimagen("/nohay/volcado.bin", chip));
-}
-
 // Each byte waits for its reply before the next goes; the talk ends at the first silence.
 std::string conversar(const std::string& ruta, const std::string& enviado)
 {
@@ -90,7 +81,8 @@ std::string conversar(const std::string& ruta, const std::string& enviado)
 }
 
 // The program on a real pseudo-terminal, reached through its link; each conversation is a
-// session. --ritmo only delays the replies, which must still all come.
+// session. --ritmo only delays the replies, which must still all come. A short image fills the
+// chip from address 0; an image that cannot be read, or a dump that cannot be written, fails.
 TEST(EeprogPlaca, ServesSessionsDumpsTheChipOnExitAndRefusesBadOptions)
 {
     std::string carpeta = testing::TempDir() + "eeprogplacaXXXXXX";
@@ -115,6 +107,8 @@ TEST(EeprogPlaca, ServesSessionsDumpsTheChipOnExitAndRefusesBadOptions)
     EXPECT_EQ(Emulador({"--eco-erroneo", "0"}).fin(), 2);
     EXPECT_EQ(Emulador({"sobra"}).fin(), 2);
     EXPECT_EQ(Emulador({"--imagen", "/nohay/imagen.bin"}).fin(), 1);
+    EXPECT_EQ(Emulador({"--imagen", testing::TempDir()}).fin(), 1); // a folder opens, but reads fail
+    EXPECT_EQ(Emulador({"--volcado", "/nohay/volcado.bin"}).terminar(), 1);
 }
 
 } // namespace
