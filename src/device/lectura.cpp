@@ -21,13 +21,12 @@ void cabecera(Enlace& enlace, int alta, int baja)
 
 } // namespace
 
-void lectura(Enlace& enlace, Leido& leido, PantallaOperacion pantalla)
+void leerchip(Enlace& enlace, Leido& leido, const Avance& avance)
 {
     int cuenta = 0;
     leido.textoleido.clear();
     leido.textoleido.reserve(45 * bloques);
     enlace.intercambio(protocolo::comprobar);
-    pantalla.ProgressBar1.maximo(bloques);
     for (int bloque = 0; bloque < bloques; ++bloque) {
         const int direccion = bloque * protocolo::tamanobloque;
         const int alta = protocolo::direccionalta(direccion);
@@ -40,13 +39,24 @@ void lectura(Enlace& enlace, Leido& leido, PantallaOperacion pantalla)
             suma += valor;
             leido.vectorleido[static_cast<std::size_t>(cuenta++)] = static_cast<std::int16_t>(valor);
             linea += doscifras(valor);
-            pantalla.StatusBar1.panel(1, std::to_string(cuenta) + "  Bytes leidos");
+            avance(cuenta);
         }
         // The low byte of the two's complement of the sum: the Intel HEX checksum.
         leido.textoleido += linea + doscifras(-suma & 0xFF) + std::string(saltolinea);
-        pantalla.ProgressBar1.valor(bloque);
     }
-    pantalla.StatusBar1.panel(1, std::to_string(cuenta) + "  Bytes leidos = " + hexa(cuenta) + "H");
+}
+
+// The bar counts whole blocks, and moves once a block is in.
+void lectura(Enlace& enlace, Leido& leido, PantallaOperacion pantalla)
+{
+    pantalla.ProgressBar1.maximo(bloques);
+    leerchip(enlace, leido, [&](int cuenta) {
+        pantalla.StatusBar1.panel(1, std::to_string(cuenta) + "  Bytes leidos");
+        if (cuenta % protocolo::tamanobloque == 0)
+            pantalla.ProgressBar1.valor(cuenta / protocolo::tamanobloque - 1);
+    });
+    pantalla.StatusBar1.panel(1, std::to_string(protocolo::tamanochip) +
+                                     "  Bytes leidos = " + hexa(protocolo::tamanochip) + "H");
 }
 
 } // namespace eeprog

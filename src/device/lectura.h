@@ -1,5 +1,6 @@
 #pragma once
 
+#include "device/avance.h"
 #include "device/leido.h"
 #include "device/pantallaoperacion.h"
 #include "link/enlace.h"
@@ -11,5 +12,8 @@ namespace eeprog {
 // with its checksum. A reply that never comes reads as 0x45, the "E" of "Error"; the read
 // goes on to its end whatever it meets. The port must be open and the board checked.
 void lectura(Enlace& enlace, Leido& leido, PantallaOperacion pantalla);
+
+// The same read with nothing shown but the count of bytes read, after each byte.
+void leerchip(Enlace& enlace, Leido& leido, const Avance& avance);
 
 } // namespace eeprog

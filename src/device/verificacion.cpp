@@ -6,17 +6,12 @@
 
 namespace eeprog {
 
-namespace {
-
-// The address shows as four digits; a counter below 0, in a header pass near address 0,
-// as its 16-bit two's complement (FFFC for -4).
+// A counter below 0, in a header pass near address 0, shows as its 16-bit two's complement.
 std::string diferencia(int direccion, int esperado, int leido)
 {
     return "Direccion = " + cuatrocifras(direccion & 0xFFFF) + "  Buffer = " + doscifras(esperado) +
            "   Leido = " + doscifras(leido);
 }
-
-} // namespace
 
 // The address counter starts 4 below the record's address, so that it stands at each data
 // byte's address when that byte is compared.

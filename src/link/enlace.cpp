@@ -4,9 +4,10 @@ namespace eeprog {
 
 Enlace::Enlace(Puerto& puerto) : puerto_(puerto) {}
 
-void Enlace::serial()
+bool Enlace::serial()
 {
-    puerto_.abrir();
+    sinrespuestas_ = 0;
+    return puerto_.abrir();
 }
 
 void Enlace::cerrar()
@@ -30,6 +31,7 @@ std::string Enlace::recibirdato()
         if (!respuesta.empty())
             return respuesta;
     }
+    ++sinrespuestas_;
     return sinrespuesta;
 }
 

@@ -18,16 +18,20 @@ public:
 
     // Opens the port for one operation; the caller closes it with cerrar when it is over.
     // A port that cannot be opened stays closed: every exchange then times out, so the
-    // connection check fails as if no board were there.
-    void serial();
+    // connection check fails as if no board were there. False then.
+    bool serial();
     void cerrar();
 
     void enviardato(const std::string& dato);
     std::string recibirdato();
     std::string intercambio(const std::string& dato);
 
+    // Replies given up since the port was opened.
+    int sinrespuestas() const { return sinrespuestas_; }
+
 private:
     Puerto& puerto_;
+    int sinrespuestas_ = 0;
 };
 
 } // namespace eeprog

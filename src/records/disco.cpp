@@ -84,4 +84,16 @@ bool escribirarchivo(const std::string& nombre, std::string_view texto)
     return hecho;
 }
 
+// Opening without truncating changes nothing in an existing file; a new one is not made.
+bool sepuedeescribir(const std::string& nombre)
+{
+    const int fd = open(nombre.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd >= 0)
+        return close(fd) == 0;
+    if (errno != ENOENT)
+        return false;
+    const fs::path carpeta = fs::path(nombre).parent_path();
+    return access(carpeta.empty() ? "." : carpeta.c_str(), W_OK | X_OK) == 0;
+}
+
 } // namespace eeprog

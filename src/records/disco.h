@@ -17,4 +17,8 @@ std::optional<std::string> leerarchivo(const std::string& nombre);
 // False when the text could not be written.
 bool escribirarchivo(const std::string& nombre, std::string_view texto);
 
+// Whether a save to this name may go ahead, asked before the work that makes the text: an
+// existing file must open for writing, and a new one needs a folder the user may write in.
+bool sepuedeescribir(const std::string& nombre);
+
 } // namespace eeprog

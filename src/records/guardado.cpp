@@ -4,6 +4,11 @@
 
 namespace eeprog {
 
+std::string textoguardado(const std::string& textoleido)
+{
+    return textoleido + std::string(saltolinea);
+}
+
 void guardararchivo(Dialogo& CommonDialog1, const std::string& textoleido, Informe& informe, Avisos& avisos)
 {
     CommonDialog1.DefaultExt = "obj";
@@ -11,7 +16,7 @@ void guardararchivo(Dialogo& CommonDialog1, const std::string& textoleido, Infor
     CommonDialog1.Flags = preguntarreemplazo;
     if (!CommonDialog1.ShowSave())
         return;
-    if (escribirarchivo(CommonDialog1.FileName, textoleido + std::string(saltolinea))) {
+    if (escribirarchivo(CommonDialog1.FileName, textoguardado(textoleido))) {
         informe.lineaconhora("... Creando Archivo : " + CommonDialog1.FileName);
         return;
     }

@@ -1,4 +1,5 @@
 #include "formprueba.h"
+#include "ordencli.h"
 #include "shell/qt/puertoserie.h"
 
 #include <thread>
@@ -70,6 +71,9 @@ TEST_F(Operaciones, EveryOperationRunsThroughTheSerialPortAgainstTheEmulator)
     dialogo.elegir = carpeta + "/lectura.hex";
     form->guardar_Click();
     EXPECT_EQ(leerarchivo(carpeta + "/lectura.hex"), lineashex(imagen) + "\r\n");
+    std::this_thread::sleep_for(Emulador::cambiodesesion); // the command line reads the same chip
+    EXPECT_EQ(correrorden({"--puerto", emulador.ruta(), "leer", "-o", carpeta + "/cli.hex"}, carpeta).estado, 0);
+    EXPECT_EQ(leerarchivo(carpeta + "/cli.hex"), leerarchivo(carpeta + "/lectura.hex"));
     const std::string exito = "G R A V A C I O N    E X I T O S A ...!!!";
     EXPECT_THAT(correr(&Form1::grabar_Click), EndsWith("Grabacion Exitosa!!!\r\n"));
     EXPECT_EQ(StatusBar1.textos[1], exito);

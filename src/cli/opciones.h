@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <variant>
+
+namespace eeprog {
+
+enum class Orden { comprobar, leer, grabar, verificar, borrar, vacio };
+enum class Formato { segunnombre, hex, bin };
+
+// What one run of eeprog-cli was asked to do.
+struct Opciones {
+    Orden orden = Orden::comprobar;
+    std::string archivo; // the file that grabar and verificar take
+    std::string salida = "-";
+    std::string puerto;
+    Formato formato = Formato::segunnombre;
+    bool verificar = false;
+    bool comoventana = false;
+    bool silencioso = false;
+};
+
+// A run that ends at the command line: the text for standard output (help, version) or for
+// standard error (wrong use), and the exit status.
+struct Respuesta {
+    int estado;
+    std::string texto;
+};
+
+std::variant<Opciones, Respuesta> interpretar(int argc, char* argv[]);
+
+// Whether the file is a raw image: by --formato, else by its name.
+bool esbinario(const std::string& nombre, Formato formato);
+
+} // namespace eeprog

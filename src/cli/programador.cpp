@@ -1,0 +1,253 @@
+#include "cli/programador.h"
+
+#include "cli/entrada.h"
+#include "cli/interrupcion.h"
+#include "cli/salida.h"
+#include "device/lectura.h"
+#include "device/verificacion.h"
+#include "link/conexion.h"
+#include "link/protocolo.h"
+#include "records/disco.h"
+#include "records/guardado.h"
+#include "records/hexadecimal.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace eeprog {
+
+namespace {
+
+// A reply given up in the middle of an operation: the board has gone, and waiting out every
+// byte that is left would take a tenth of a second each.
+struct PlacaCallada {};
+
+std::string cuenta(std::size_t numero, const std::string& singular, const std::string& plural)
+{
+    return std::to_string(numero) + " " + (numero == 1 ? singular : plural);
+}
+
+std::string imagenbinaria(const Leido& leido)
+{
+    std::string imagen(protocolo::tamanochip, '\0');
+    std::transform(leido.vectorleido.begin(), leido.vectorleido.begin() + protocolo::tamanochip, imagen.begin(),
+                   [](std::int16_t valor) { return static_cast<char>(valor & 0xFF); });
+    return imagen;
+}
+
+std::vector<Trama> chipborrado()
+{
+    Imagen imagen;
+    imagen.bytes.fill(0xFF);
+    imagen.dado.set();
+    return tramasdeimagen(imagen);
+}
+
+} // namespace
+
+Programador::Programador(Puerto& puerto, std::string dispositivo, const Opciones& opciones, Terminal terminal)
+    : enlace_(puerto), dispositivo_(std::move(dispositivo)), opciones_(opciones), terminal_(terminal)
+{}
+
+int Programador::ejecutar()
+{
+    switch (opciones_.orden) {
+    case Orden::comprobar:
+        return comprobar();
+    case Orden::leer:
+        return leer();
+    case Orden::grabar:
+        return grabar();
+    case Orden::verificar:
+        return verificar();
+    case Orden::borrar:
+        return borrar();
+    case Orden::vacio:
+        return vacio();
+    }
+    return salida::uso;
+}
+
+int Programador::comprobar()
+{
+    return conplaca([this] {
+        resumen("Programador..... C O N E C T A D O !!!!");
+        return salida::hecho;
+    });
+}
+
+int Programador::leer()
+{
+    if (opciones_.salida != "-" && !sepuedeescribir(opciones_.salida)) {
+        error("no se puede escribir el archivo " + opciones_.salida);
+        return salida::archivo;
+    }
+    auto leido = std::make_unique<Leido>();
+    const int estado = conplaca([&] {
+        leerentero(*leido);
+        return salida::hecho;
+    });
+    if (estado != salida::hecho)
+        return estado;
+    return guardar(esbinario(opciones_.salida, opciones_.formato) ? imagenbinaria(*leido)
+                                                                  : textoguardado(leido->textoleido));
+}
+
+int Programador::grabar()
+{
+    return conarchivo([this](const std::vector<Trama>& tramas) {
+        const int escrito = escribir(tramas, "Grabando");
+        return opciones_.verificar ? std::max(escrito, comparar(tramas)) : escrito;
+    });
+}
+
+int Programador::verificar()
+{
+    return conarchivo([this](const std::vector<Trama>& tramas) { return comparar(tramas); });
+}
+
+int Programador::borrar()
+{
+    return conplaca([this] { return escribir(chipborrado(), "Borrando"); });
+}
+
+int Programador::vacio()
+{
+    auto leido = std::make_unique<Leido>();
+    return conplaca([&] {
+        leerentero(*leido);
+        const auto& bytes = leido->vectorleido;
+        const auto lleno = std::find_if(bytes.begin(), bytes.begin() + protocolo::tamanochip,
+                                        [](std::int16_t valor) { return valor != 0xFF; });
+        if (lleno == bytes.begin() + protocolo::tamanochip) {
+            resumen("El chip está vacío: sus 8192 bytes están en FF");
+            return salida::hecho;
+        }
+        std::fprintf(terminal_.resultados, "El chip no está vacío: Direccion = %s  Leido = %s\n",
+                     cuatrocifras(lleno - bytes.begin()).c_str(), doscifras(*lleno).c_str());
+        return salida::distinto;
+    });
+}
+
+int Programador::conplaca(const std::function<int()>& operacion)
+{
+    if (!enlace_.serial()) {
+        error("no se puede abrir el dispositivo " + dispositivo_);
+        return salida::sinplaca;
+    }
+    int estado = salida::sinplaca;
+    try {
+        if (comprobarconexion(enlace_))
+            estado = operacion();
+        else
+            error(dispositivo_ + ": Programador..... NO EXISTE CONECCION");
+    } catch (const Interrupcion&) {
+        terminal_.progreso.terminar();
+        error("interrumpido: el puerto queda cerrado y no se escribe nada");
+        estado = salida::interrumpido;
+    } catch (const PlacaCallada&) {
+        terminal_.progreso.terminar();
+        error(dispositivo_ + ": la placa dejó de responder");
+        estado = salida::sinplaca;
+    }
+    enlace_.cerrar();
+    return estado;
+}
+
+// The file is read and judged whole before the board hears a byte.
+int Programador::conarchivo(const std::function<int(const std::vector<Trama>&)>& operacion)
+{
+    const auto tramas = tramasdearchivo(opciones_);
+    if (const auto* motivo = std::get_if<std::string>(&tramas)) {
+        error(*motivo);
+        return salida::archivo;
+    }
+    return conplaca([&] { return operacion(std::get<std::vector<Trama>>(tramas)); });
+}
+
+void Programador::leerentero(Leido& leido)
+{
+    leerchip(enlace_, leido, avance("Leyendo", protocolo::tamanochip));
+    terminal_.progreso.terminar();
+}
+
+Avance Programador::avance(const std::string& accion, int total)
+{
+    terminal_.progreso.empezar(accion, total);
+    return [this](int hechos) {
+        if (interrumpido())
+            throw Interrupcion{};
+        if (enlace_.sinrespuestas() > 0)
+            throw PlacaCallada{};
+        terminal_.progreso.avanzar(hechos);
+    };
+}
+
+int Programador::escribir(const std::vector<Trama>& tramas, const std::string& accion)
+{
+    const int bytes = bytesde(tramas);
+    const auto ecos = escribirtramas(enlace_, tramas, avance(accion, bytes));
+    terminal_.progreso.terminar();
+    for (const Diferencia& eco : ecos)
+        std::fprintf(
+            terminal_.resultados, "El dato transmitido %s no se ha recibido correctamente: Direccion = %s  Eco = %s\n",
+            doscifras(eco.esperado).c_str(), cuatrocifras(eco.direccion).c_str(), doscifras(eco.obtenido).c_str());
+    const std::string hecho = cuenta(static_cast<std::size_t>(bytes), "byte grabado", "bytes grabados");
+    if (ecos.empty()) {
+        resumen(hecho);
+        return salida::hecho;
+    }
+    std::fprintf(terminal_.resultados, "%s, %s\n", hecho.c_str(),
+                 cuenta(ecos.size(), "eco erróneo", "ecos erróneos").c_str());
+    return salida::distinto;
+}
+
+int Programador::comparar(const std::vector<Trama>& tramas)
+{
+    const int bytes = bytesde(tramas);
+    const auto diferencias = comparartramas(enlace_, tramas, avance("Verificando", bytes));
+    terminal_.progreso.terminar();
+    for (const Diferencia& d : diferencias)
+        std::fprintf(terminal_.resultados, "Error.. %s\n", diferencia(d.direccion, d.esperado, d.obtenido).c_str());
+    const std::string total = cuenta(static_cast<std::size_t>(bytes), "byte verificado", "bytes verificados") + ", " +
+                              cuenta(diferencias.size(), "diferencia", "diferencias");
+    if (diferencias.empty()) {
+        resumen(total);
+        return salida::hecho;
+    }
+    std::fprintf(terminal_.resultados, "%s\n", total.c_str());
+    return salida::distinto;
+}
+
+int Programador::guardar(const std::string& texto)
+{
+    const std::string& nombre = opciones_.salida;
+    if (nombre == "-") {
+        if (std::fwrite(texto.data(), 1, texto.size(), terminal_.resultados) != texto.size() ||
+            std::fflush(terminal_.resultados) != 0) {
+            error("no se puede escribir en la salida estándar");
+            return salida::archivo;
+        }
+        return salida::hecho;
+    }
+    if (!escribirarchivo(nombre, texto)) {
+        error("no se puede escribir el archivo " + nombre);
+        return salida::archivo;
+    }
+    resumen("8192 bytes leídos en " + nombre);
+    return salida::hecho;
+}
+
+void Programador::error(const std::string& mensaje)
+{
+    std::fprintf(terminal_.errores, "eeprog-cli: %s\n", mensaje.c_str());
+}
+
+// The lines that say all went right; -q leaves them out.
+void Programador::resumen(const std::string& mensaje)
+{
+    if (!opciones_.silencioso)
+        std::fprintf(terminal_.resultados, "%s\n", mensaje.c_str());
+}
+
+} // namespace eeprog

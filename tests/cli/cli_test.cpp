@@ -1,0 +1,186 @@
+#include "chipprueba.h"
+#include "emulador.h"
+#include "ordencli.h"
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+namespace eeprog::prueba {
+namespace {
+
+using namespace std::chrono_literals;
+
+// A terminal of the test's own at the far end of the port: a board that never answers and
+// keeps every byte it hears.
+class Escucha {
+public:
+    Escucha() : maestro_(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
+    {
+        grantpt(maestro_);
+        unlockpt(maestro_);
+    }
+    ~Escucha() { close(maestro_); }
+    std::string ruta() const { return ptsname(maestro_); }
+    std::string oido() const
+    {
+        std::string bytes;
+        char byte = 0;
+        while (read(maestro_, &byte, 1) == 1)
+            bytes += byte;
+        return bytes;
+    }
+
+private:
+    int maestro_;
+};
+
+class OrdenCli : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_NE(mkdtemp(carpeta.data()), nullptr); }
+    void TearDown() override { std::filesystem::remove_all(carpeta); }
+
+    std::string escribir(const std::string& texto, const std::string& nombre)
+    {
+        std::ofstream(carpeta + "/" + nombre, std::ios::binary) << texto;
+        return carpeta + "/" + nombre;
+    }
+    std::string leer(const std::string& nombre)
+    {
+        std::ostringstream texto;
+        texto << std::ifstream(carpeta + "/" + nombre, std::ios::binary).rdbuf();
+        return texto.str();
+    }
+    std::string imagen(const Chip& chip) { return escribir(std::string(chip.begin(), chip.end()), "imagen.bin"); }
+    Corrida correr(const std::vector<std::string>& argumentos, std::chrono::milliseconds interrupcion = {})
+    {
+        std::this_thread::sleep_for(Emulador::cambiodesesion);
+        return correrorden(argumentos, carpeta, interrupcion);
+    }
+
+    std::string carpeta = std::filesystem::temp_directory_path() / "eeprog-cli-XXXXXX";
+};
+
+// Every shape of file leaves on the chip the bytes it gives, and nothing else; the rest of an
+// erased chip stays FF.
+TEST_F(OrdenCli, ProgrammingAndVerifyingLeaveTheChipTheFileGives)
+{
+    Chip chip;
+    azar(chip, 7);
+    const std::string binario = imagen(chip);
+    const bool conobjcopy =
+        std::system(("objcopy -I binary -O srec " + binario + " " + carpeta + "/chip.s").c_str()) == 0;
+    Chip disperso;
+    disperso.fill(0xFF), disperso[0x100] = 0xAA, disperso[0x101] = 0xBB, disperso[0x102] = 0xCC;
+    const struct {
+        const char* nombre;
+        std::string archivo;
+        const Chip& esperado;
+    } filas[] = {
+        {"Intel HEX", escribir(lineashex(chip) + ":00000001FF\r\n", "chip.hex"), chip},
+        {"raw image", binario, chip},
+        {"sparse S-records, LF", escribir("S1060100AABBCCC7\nS9030000FC\n", "poco.s19"), disperso},
+        {"S-records by objcopy", carpeta + "/chip.s", chip},
+    };
+    for (const auto& fila : filas) {
+        SCOPED_TRACE(fila.nombre);
+        if (!conobjcopy && fila.archivo.ends_with("chip.s"))
+            continue;
+        Emulador placa({"--volcado", carpeta + "/volcado.bin"});
+        const Corrida corrida = correr({"--puerto", placa.ruta(), "grabar", fila.archivo, "--verificar"});
+        EXPECT_EQ(corrida.estado, 0) << corrida.errores;
+        EXPECT_NE(corrida.salida.find(", 0 diferencias\n"), std::string::npos) << corrida.salida;
+        ASSERT_EQ(placa.terminar(), 0);
+        EXPECT_EQ(leer("volcado.bin"), std::string(fila.esperado.begin(), fila.esperado.end()));
+    }
+}
+
+TEST_F(OrdenCli, AChangedByteOrAWrongEchoExitsOneNamingItsAddress)
+{
+    Chip chip;
+    azar(chip, 8);
+    const std::string archivo = imagen(chip);
+    Chip cambiado = chip;
+    cambiado[0x123] ^= 0x40;
+    Emulador placa({"--imagen", escribir(std::string(cambiado.begin(), cambiado.end()), "cambiado.bin")});
+    const Corrida corrida = correr({"--puerto", placa.ruta(), "verificar", archivo});
+    EXPECT_EQ(corrida.estado, 1);
+    char linea[64];
+    std::snprintf(linea, sizeof linea, "Error.. Direccion = 0123  Buffer = %02X   Leido = %02X\n", chip[0x123],
+                  cambiado[0x123]);
+    EXPECT_EQ(corrida.salida, linea + std::string("8192 bytes verificados, 1 diferencia\n"));
+
+    Emulador sordo({"--eco-erroneo", "3"});
+    const Corrida eco = correr({"--puerto", sordo.ruta(), "grabar", escribir(":0300100041424327\n", "abc.hex")});
+    EXPECT_EQ(eco.estado, 1);
+    EXPECT_EQ(eco.salida.find("El dato transmitido 43 no se ha recibido correctamente: Direccion = 0012"), 0u)
+        << eco.salida;
+}
+
+TEST_F(OrdenCli, ReadingGivesTheImageAndErasingLeavesABlankChip)
+{
+    Chip chip;
+    azar(chip, 9);
+    chip[0] = 0xFF, chip[1] = 0x12;
+    Emulador placa({"--imagen", imagen(chip)});
+    const std::vector<std::string> puerto{"--puerto", placa.ruta()};
+    const auto orden = [&](std::vector<std::string> palabras) {
+        palabras.insert(palabras.begin(), puerto.begin(), puerto.end());
+        return correr(palabras);
+    };
+    EXPECT_EQ(orden({"leer", "--formato", "bin"}).salida, std::string(chip.begin(), chip.end()));
+    const Corrida lleno = orden({"vacio"});
+    EXPECT_EQ(lleno.estado, 1);
+    EXPECT_EQ(lleno.salida, "El chip no está vacío: Direccion = 0001  Leido = 12\n");
+    EXPECT_EQ(orden({"borrar"}).estado, 0);
+    EXPECT_EQ(orden({"-q", "vacio"}).estado, 0);
+}
+
+// Ctrl+C in the middle of a read: no file, and the board is free for the next run.
+TEST_F(OrdenCli, AnInterruptedReadLeavesNoFileAndClosesThePort)
+{
+    Emulador placa({"--ritmo"});
+    EXPECT_EQ(correr({"--puerto", placa.ruta(), "leer", "-o", carpeta + "/chip.hex"}, 500ms).estado, 130);
+    EXPECT_FALSE(std::filesystem::exists(carpeta + "/chip.hex"));
+    EXPECT_EQ(correr({"--puerto", placa.ruta(), "comprobar"}).estado, 0);
+}
+
+// What goes wrong before the board is reached sends nothing and writes nothing, and says so
+// in one line; a mute board hears the check and nothing more.
+TEST_F(OrdenCli, WrongInputOrNoBoardEndsInOneLineAndSendsNothing)
+{
+    const struct {
+        const char* nombre;
+        std::vector<std::string> palabras;
+        int estado;
+        std::string mensaje;
+        std::string oido = "";
+    } filas[] = {
+        {"missing file", {"grabar", carpeta + "/no.hex"}, 3, "no se puede leer el archivo " + carpeta + "/no.hex"},
+        {"refused first character", {"verificar", escribir("hola\r\n", "hola.hex")}, 3, "hola.hex, línea 1: "},
+        {"unwritable output", {"leer", "-o", carpeta + "/no/chip.hex"}, 3, "no se puede escribir el archivo"},
+        {"unknown order", {"programar"}, 2, "orden desconocida: programar"},
+        {"unknown option", {"--rapido", "comprobar"}, 2, "opción desconocida: --rapido"},
+        {"missing device", {"--puerto", carpeta + "/ttyUSB9", "leer"}, 4, "no se puede abrir el dispositivo"},
+        {"mute board", {"comprobar"}, 4, ": Programador..... NO EXISTE CONECCION", "c"},
+    };
+    for (const auto& fila : filas) {
+        SCOPED_TRACE(fila.nombre);
+        Escucha placa;
+        std::vector<std::string> palabras{"--puerto", placa.ruta()};
+        palabras.insert(palabras.end(), fila.palabras.begin(), fila.palabras.end());
+        const Corrida corrida = correr(palabras);
+        EXPECT_EQ(corrida.estado, fila.estado);
+        EXPECT_NE(corrida.errores.find(fila.mensaje), std::string::npos) << corrida.errores;
+        EXPECT_EQ(std::count(corrida.errores.begin(), corrida.errores.end(), '\n'), 1) << corrida.errores;
+        EXPECT_EQ(corrida.salida, "");
+        EXPECT_EQ(placa.oido(), fila.oido);
+        EXPECT_FALSE(std::filesystem::exists(carpeta + "/no"));
+    }
+}
+
+} // namespace
+} // namespace eeprog::prueba
