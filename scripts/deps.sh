@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what eeprog needs to build, run and test, on Debian 12, if it is missing.
-# Sourced by run.sh and test.sh; run as root (or with sudo at hand).
+# Run by run.sh, test.sh and bench/run.sh, as root (or with sudo at hand); extra packages
+# may be named as arguments.
 set -euo pipefail
 
 paquetes=(
@@ -10,7 +11,10 @@ paquetes=(
   libgtest-dev libgmock-dev libbenchmark-dev
   binutils srecord  # objcopy and srec_cat: the tests open the files they make
   fonts-liberation2 fonts-dejavu-core
+  dpkg-dev file  # cpack -G DEB: dpkg-shlibdeps, and file to find the programs in the package
 )
+# What a caller needs besides, such as the X server of the benchmarks.
+paquetes+=("$@")
 
 faltan=()
 for paquete in "${paquetes[@]}"; do
