@@ -5,7 +5,7 @@
 
 namespace eeprog {
 
-Barra::Barra(QWidget* padre) : QProgressBar(padre)
+Barra::Barra(Repintado& repintado, QWidget* padre) : QProgressBar(padre), repintado_(repintado)
 {
     setRange(0, 100);
     setValue(0);

@@ -9,13 +9,13 @@ namespace eeprog {
 
 class Barra : public QProgressBar, public BarraProgreso {
 public:
-    explicit Barra(QWidget* padre = nullptr);
+    Barra(Repintado& repintado, QWidget* padre);
 
     void maximo(double valor) override;
     void valor(double valor) override;
 
 private:
-    Repintado repintado_;
+    Repintado& repintado_;
 };
 
 } // namespace eeprog

@@ -2,7 +2,9 @@
 
 #include "shell/qt/twips.h"
 
+#include <QHelpEvent>
 #include <QLabel>
+#include <QToolTip>
 
 namespace eeprog {
 
@@ -22,7 +24,7 @@ QFont letrapanel()
 
 // The panels stand side by side from the left edge, each at its fixed width, as a row of
 // their own rather than in the status bar's layout, which would squeeze or overlap them.
-BarraEstado::BarraEstado(QWidget* padre) : QStatusBar(padre)
+BarraEstado::BarraEstado(Repintado& repintado, QWidget* padre) : QStatusBar(padre), repintado_(repintado)
 {
     int izquierda = 0;
     for (std::size_t i = 0; i < paneles_.size(); ++i) {
@@ -31,6 +33,7 @@ BarraEstado::BarraEstado(QWidget* padre) : QStatusBar(padre)
         etiqueta->setFrameStyle(QFrame::Panel | QFrame::Sunken);
         etiqueta->setTextFormat(Qt::PlainText);
         etiqueta->setAccessibleDescription(QStringLiteral("Panel %1").arg(i + 1)); // its name is its text
+        etiqueta->installEventFilter(this);
         const int ancho = pixeles(anchos[i]);
         etiqueta->setGeometry(izquierda, 0, ancho, altura());
         izquierda += ancho;
@@ -61,8 +64,18 @@ void BarraEstado::panel(int numero, const std::string& texto)
         return;
     QLabel* etiqueta = paneles_[static_cast<std::size_t>(numero - 1)];
     etiqueta->setText(QString::fromStdString(texto));
-    etiqueta->setToolTip(etiqueta->text()); // the whole text, where the panel's width cuts it
-    repintado_.pedir(*this);
+    repintado_.pedir(*etiqueta);
+}
+
+// A panel's tip is its whole text, where the panel's width cuts it. It is made when asked
+// for, as a read writes panel 1 some twenty thousand times.
+bool BarraEstado::eventFilter(QObject* objeto, QEvent* evento)
+{
+    auto* etiqueta = qobject_cast<QLabel*>(objeto);
+    if (evento->type() != QEvent::ToolTip || !etiqueta || etiqueta->text().isEmpty())
+        return QStatusBar::eventFilter(objeto, evento);
+    QToolTip::showText(static_cast<QHelpEvent*>(evento)->globalPos(), etiqueta->text(), etiqueta);
+    return true;
 }
 
 QSize BarraEstado::minimumSizeHint() const

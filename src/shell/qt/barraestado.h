@@ -17,7 +17,7 @@ class BarraEstado : public QStatusBar, public Paneles {
 public:
     static constexpr int cantidad = 5;
 
-    explicit BarraEstado(QWidget* padre = nullptr);
+    BarraEstado(Repintado& repintado, QWidget* padre);
 
     void panel(int numero, const std::string& texto) override;
     QString textopanel(int numero) const;
@@ -29,12 +29,13 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
     int altura() const;
 
     std::array<QLabel*, cantidad> paneles_{};
-    Repintado repintado_;
+    Repintado& repintado_;
 };
 
 } // namespace eeprog

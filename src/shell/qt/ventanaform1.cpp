@@ -90,7 +90,7 @@ Dependencias dependenciasreales()
 }
 
 VentanaForm1::VentanaForm1(Dependencias dependencias, QWidget* padre)
-    : QMainWindow(padre), dependencias_(std::move(dependencias))
+    : QMainWindow(padre), dependencias_(std::move(dependencias)), puerto_(*dependencias_.puerto, repintado_)
 {
     setWindowTitle(QString::fromStdString(titulo));
     auto* lienzo = new QWidget(this);
@@ -99,7 +99,7 @@ VentanaForm1::VentanaForm1(Dependencias dependencias, QWidget* padre)
     crearcontroles(lienzo);
     skin_.registrar(Formulario::Form1, this);
     logica_.emplace(controles(),
-                    Servicios{*dependencias_.puerto, *dependencias_.reloj, *dependencias_.avisos, skin_,
+                    Servicios{puerto_, *dependencias_.reloj, *dependencias_.avisos, skin_,
                               *dependencias_.CommonDialog1, *dependencias_.abridor, dependencias_.directorio});
     conectareditores();
     prepararordenes();
@@ -124,10 +124,10 @@ void VentanaForm1::crearcontroles(QWidget* lienzo)
     rejillas_ = std::make_unique<Rejillas>(cuadriculas_, lienzo);
     crearcajas(lienzo);
     ordenartabulacion();
-    ProgressBar1_ = new Barra(lienzo);
+    ProgressBar1_ = new Barra(repintado_, lienzo);
     ProgressBar1_->setGeometry(rectangulo(120, 5640, 8655, 255));
     ProgressBar1_->setToolTip(QStringLiteral("Barra que muestra el progreso del proceso que se haya elegido"));
-    StatusBar1_ = new BarraEstado(this);
+    StatusBar1_ = new BarraEstado(repintado_, this);
     setStatusBar(StatusBar1_);
 }
 

@@ -12,6 +12,7 @@
 #include "shell/form1.h"
 #include "shell/qt/abridorescritorio.h"
 #include "shell/qt/motorskin.h"
+#include "shell/qt/repintado.h"
 #include "shell/qt/timbresistema.h"
 #include "shell/qt/ventanaabout.h"
 
@@ -91,6 +92,9 @@ private:
     Controles controles();
 
     Dependencias dependencias_;
+    // The operations' progress is painted while they wait on the port.
+    Repintado repintado_;
+    PuertoPintado puerto_;
     MotorSkin skin_;
     Cuadriculas cuadriculas_;
     CajaInforme* txtinforme_ = nullptr;
