@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include <chrono>
+#include <iostream>
 #include <string>
 
 // What the benchmarks share: timing the work alone, and holding a figure to its target so
@@ -28,12 +29,15 @@ inline void fallar(benchmark::State& estado, const std::string& motivo)
     estado.SkipWithError(motivo.c_str());
 }
 
-// A figure must stay under its target; the figure is shown as a counter either way.
+// A figure must stay under its target. The figure is shown as a counter either way, with the
+// others of its run, and a miss is told on the error output.
 inline void tope(benchmark::State& estado, const std::string& nombre, double figura, double maximo)
 {
     estado.counters[nombre] = figura;
-    if (figura >= maximo)
-        fallar(estado, nombre + " = " + std::to_string(figura) + ", target under " + std::to_string(maximo));
+    if (figura < maximo)
+        return;
+    ++fallos;
+    std::cerr << "Fuera de objetivo: " << nombre << " = " << figura << ", target under " << maximo << '\n';
 }
 
 // The mean of the timed seconds, in milliseconds, against a target.

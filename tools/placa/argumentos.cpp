@@ -9,7 +9,7 @@ namespace eeprog {
 
 namespace {
 
-enum Opcion { imagen = 1, volcado, muda, silenciosa, ecoerroneo, ritmo, enlace, ayuda };
+enum Opcion { imagen = 1, volcado, muda, silenciosa, ecoerroneo, ritmo, enlace, reacciones, ayuda };
 
 const option opciones[] = {
     {"imagen", required_argument, nullptr, imagen},
@@ -19,6 +19,7 @@ const option opciones[] = {
     {"eco-erroneo", required_argument, nullptr, ecoerroneo},
     {"ritmo", no_argument, nullptr, ritmo},
     {"enlace", required_argument, nullptr, enlace},
+    {"reacciones", required_argument, nullptr, reacciones},
     {"ayuda", no_argument, nullptr, ayuda},
     {nullptr, 0, nullptr, 0},
 };
@@ -54,6 +55,9 @@ bool tomar(int opcion, const char* valor, Argumentos& argumentos)
         return true;
     case enlace:
         argumentos.enlace = valor;
+        return true;
+    case reacciones:
+        argumentos.reacciones = valor;
         return true;
     case ayuda:
         argumentos.ayuda = true;
@@ -105,6 +109,8 @@ std::string uso()
            "  --muda               no responde nunca\n"
            "  --silenciosa         responde a la primera comprobación de cada sesión\n"
            "                       y después se queda callada hasta que se reabre\n"
+           "  --reacciones ARCHIVO al terminar, escribe el tiempo de reacción del\n"
+           "                       programa a cada respuesta, en microsegundos\n"
            "  --eco-erroneo N      el N-ésimo byte de datos escrito se oye mal\n"
            "                       (un bit cambiado): se guarda y se devuelve así\n"
            "  --ayuda              muestra esta ayuda\n";

@@ -13,6 +13,7 @@ struct Argumentos {
     std::string imagen;
     std::string volcado;
     std::string enlace;
+    std::string reacciones;
     bool ritmo = false;
     bool ayuda = false;
 };

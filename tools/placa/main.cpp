@@ -8,6 +8,7 @@
 #include "servidor.h"
 
 #include <csignal>
+#include <fstream>
 #include <iostream>
 #include <signal.h>
 
@@ -48,6 +49,11 @@ int servir(eeprog::Placa& placa, const eeprog::Argumentos& argumentos)
     servidor.servir(terminar);
     if (!argumentos.enlace.empty()) {
         eeprog::desenlazar(argumentos.enlace, servidor.ruta());
+    }
+    if (!argumentos.reacciones.empty()) {
+        std::ofstream archivo(argumentos.reacciones);
+        for (const long microsegundos : servidor.reacciones())
+            archivo << microsegundos << '\n';
     }
     return 0;
 }

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <stdlib.h>
 #include <termios.h>
 #include <unistd.h>
@@ -24,12 +25,25 @@ timespec ahora()
     return momento;
 }
 
+// A paced reply is due at a set time; the time a sleeper may take to wake up is spent awake.
+constexpr long despertar = 200'000;
+
 timespec sumar(timespec momento, long nanosegundos)
 {
     momento.tv_nsec += nanosegundos;
     momento.tv_sec += momento.tv_nsec / 1'000'000'000;
     momento.tv_nsec %= 1'000'000'000;
+    if (momento.tv_nsec < 0) {
+        momento.tv_nsec += 1'000'000'000;
+        --momento.tv_sec;
+    }
     return momento;
+}
+
+bool llegado(const timespec& momento)
+{
+    const timespec actual = ahora();
+    return actual.tv_sec > momento.tv_sec || (actual.tv_sec == momento.tv_sec && actual.tv_nsec >= momento.tv_nsec);
 }
 
 void descansar()
@@ -53,7 +67,14 @@ void escribirtodo(int destino, const std::string& datos)
 
 } // namespace
 
-Servidor::Servidor(Placa& placa, bool ritmo) : placa(placa), ritmo(ritmo) {}
+// A paced reply is due at a set time, and the system's usual slack of 50 us on every timer
+// would make the board slower than the line it stands for.
+Servidor::Servidor(Placa& placa, bool ritmo) : placa(placa), ritmo(ritmo)
+{
+    if (ritmo) {
+        prctl(PR_SET_TIMERSLACK, 1UL);
+    }
+}
 
 Servidor::~Servidor()
 {
@@ -131,6 +152,7 @@ void Servidor::vigilar()
 void Servidor::comenzarsesion()
 {
     conectado = true;
+    respondido_.reset();
     tcflush(maestro, TCOFLUSH);
     placa.conectar();
 }
@@ -146,7 +168,13 @@ bool Servidor::atender(bool responder)
     if (!conectado) {
         comenzarsesion();
     }
-    timespec plazo = sumar(ahora(), dosbytes);
+    const timespec llegada = ahora();
+    if (respondido_) {
+        reacciones_.push_back((llegada.tv_sec - respondido_->tv_sec) * 1'000'000 +
+                              (llegada.tv_nsec - respondido_->tv_nsec) / 1000);
+        respondido_.reset();
+    }
+    timespec plazo = sumar(llegada, dosbytes);
     std::string respuestas;
     for (ssize_t i = 0; i < leidos; ++i) {
         if (auto respuesta = placa.recibir(llegado[i])) {
@@ -164,9 +192,14 @@ bool Servidor::atender(bool responder)
 void Servidor::enviar(const std::string& respuestas, const timespec& plazo)
 {
     if (ritmo) {
-        clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &plazo, nullptr);
+        // A sleeper wakes some tens of microseconds late, so the last stretch is waited awake.
+        const timespec antes = sumar(plazo, -despertar);
+        clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &antes, nullptr);
+        while (!llegado(plazo)) {
+        }
     }
     escribirtodo(maestro, respuestas);
+    respondido_ = ahora();
 }
 
 } // namespace eeprog

@@ -4,7 +4,9 @@
 
 #include <csignal>
 #include <ctime>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace eeprog {
 
@@ -25,6 +27,9 @@ public:
     const std::string& ruta() const;
     // Answers the program until terminar is set by a signal.
     void servir(const volatile std::sig_atomic_t& terminar);
+    // The program's reaction to each reply, in microseconds: from the reply written to the
+    // next byte heard, within a session.
+    const std::vector<long>& reacciones() const { return reacciones_; }
 
 private:
     bool ponerencrudo();
@@ -38,6 +43,8 @@ private:
     int maestro = -1;
     std::string esclavo;
     bool conectado = false;
+    std::vector<long> reacciones_;
+    std::optional<timespec> respondido_;
 };
 
 } // namespace eeprog
