@@ -139,13 +139,20 @@ TEST_F(OrdenCli, ReadingGivesTheImageAndErasingLeavesABlankChip)
     EXPECT_EQ(orden({"-q", "vacio"}).estado, 0);
 }
 
-// Ctrl+C in the middle of a read: no file, and the board is free for the next run.
-TEST_F(OrdenCli, AnInterruptedReadLeavesNoFileAndClosesThePort)
+// Ctrl+C in the middle of a read, or a board that stops answering: no file, and the port is
+// closed for the next run.
+TEST_F(OrdenCli, AnInterruptedOrBrokenReadLeavesNoFileAndClosesThePort)
 {
     Emulador placa({"--ritmo"});
     EXPECT_EQ(correr({"--puerto", placa.ruta(), "leer", "-o", carpeta + "/chip.hex"}, 500ms).estado, 130);
     EXPECT_FALSE(std::filesystem::exists(carpeta + "/chip.hex"));
     EXPECT_EQ(correr({"--puerto", placa.ruta(), "comprobar"}).estado, 0);
+
+    Emulador callada({"--silenciosa"});
+    const Corrida corrida = correr({"--puerto", callada.ruta(), "leer", "-o", carpeta + "/chip.hex"});
+    EXPECT_EQ(corrida.estado, 4);
+    EXPECT_EQ(corrida.errores, "eeprog-cli: " + callada.ruta() + ": la placa dejó de responder\n");
+    EXPECT_FALSE(std::filesystem::exists(carpeta + "/chip.hex"));
 }
 
 // What goes wrong before the board is reached sends nothing and writes nothing, and says so

@@ -2,6 +2,7 @@
 #include "device/grabacion.h"
 #include "device/grabaredit.h"
 #include "device/lectura.h"
+#include "device/tramas.h"
 #include "device/verificacion.h"
 #include "pantallafalsa.h"
 #include "puertoplaca.h"
@@ -66,6 +67,31 @@ TEST(Lectura, ReadsTheWholeChipIntoVectorleidoAndIntelHexLinesWithTheirChecksums
     EXPECT_EQ(std::pair(banco.barra.tope, banco.barra.actual), std::pair(512.0, 511.0));
     EXPECT_EQ(leido.textoleido, lineashex(banco.placa.chip()));
     EXPECT_TRUE(std::equal(banco.placa.chip().begin(), banco.placa.chip().end(), leido.vectorleido.begin()));
+}
+
+// A sparse image goes out in runs of consecutive bytes cut at the 16-byte blocks; verifying
+// checks again, then offers each byte, and names the address of the one that differs.
+TEST(Tramas, AnImageGoesOutInRunsCutAtBlocksAndIsVerifiedAfterACheck)
+{
+    Banco banco;
+    Imagen imagen;
+    for (const int direccion : {0x0E, 0x0F, 0x10, 0x12, 0x1FFF})
+        imagen.dado.set(direccion), imagen.bytes[direccion] = direccion & 0xFF;
+    const auto tramas = tramasdeimagen(imagen);
+    std::vector<int> hechos;
+    EXPECT_TRUE(escribirtramas(banco.enlace, tramas, [&](int n) { hechos.push_back(n); }).empty());
+    const auto marcos = [](char orden) {
+        return marco(orden, 2, 0x0E, "\x0E\x0F") + marco(orden, 1, 0x10, "\x10") + marco(orden, 1, 0x12, "\x12") +
+               marco(orden, 1, 0x1FFF, "\xFF");
+    };
+    EXPECT_EQ(banco.puerto.enviados(), marcos('w'));
+    EXPECT_EQ(hechos, (std::vector<int>{1, 2, 3, 4, 5}));
+    banco.placa.chip()[0x12] = 0x99;
+    const auto diferencias = comparartramas(banco.enlace, tramas, [](int) {});
+    EXPECT_EQ(banco.puerto.enviados(), marcos('w') + "c" + marcos('r'));
+    ASSERT_EQ(diferencias.size(), 1u);
+    EXPECT_EQ(std::tuple(diferencias[0].direccion, diferencias[0].esperado, diferencias[0].obtenido),
+              std::tuple(0x12, 0x12, 0x99));
 }
 
 // The board's echo is the only check: a wrong one (marked below) shows in panel 1 right
