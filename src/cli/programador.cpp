@@ -123,8 +123,8 @@ int Programador::vacio()
             resumen("El chip está vacío: sus 8192 bytes están en FF");
             return salida::hecho;
         }
-        std::fprintf(terminal_.resultados, "El chip no está vacío: Direccion = %s  Leido = %s\n",
-                     cuatrocifras(lleno - bytes.begin()).c_str(), doscifras(*lleno).c_str());
+        resultado("El chip no está vacío: Direccion = " + cuatrocifras(lleno - bytes.begin()) +
+                  "  Leido = " + doscifras(*lleno));
         return salida::distinto;
     });
 }
@@ -189,16 +189,14 @@ int Programador::escribir(const std::vector<Trama>& tramas, const std::string& a
     const auto ecos = escribirtramas(enlace_, tramas, avance(accion, bytes));
     terminal_.progreso.terminar();
     for (const Diferencia& eco : ecos)
-        std::fprintf(
-            terminal_.resultados, "El dato transmitido %s no se ha recibido correctamente: Direccion = %s  Eco = %s\n",
-            doscifras(eco.esperado).c_str(), cuatrocifras(eco.direccion).c_str(), doscifras(eco.obtenido).c_str());
+        resultado("El dato transmitido " + doscifras(eco.esperado) + " no se ha recibido correctamente: Direccion = " +
+                  cuatrocifras(eco.direccion) + "  Eco = " + doscifras(eco.obtenido));
     const std::string hecho = cuenta(static_cast<std::size_t>(bytes), "byte grabado", "bytes grabados");
     if (ecos.empty()) {
         resumen(hecho);
         return salida::hecho;
     }
-    std::fprintf(terminal_.resultados, "%s, %s\n", hecho.c_str(),
-                 cuenta(ecos.size(), "eco erróneo", "ecos erróneos").c_str());
+    resultado(hecho + ", " + cuenta(ecos.size(), "eco erróneo", "ecos erróneos"));
     return salida::distinto;
 }
 
@@ -208,14 +206,14 @@ int Programador::comparar(const std::vector<Trama>& tramas)
     const auto diferencias = comparartramas(enlace_, tramas, avance("Verificando", bytes));
     terminal_.progreso.terminar();
     for (const Diferencia& d : diferencias)
-        std::fprintf(terminal_.resultados, "Error.. %s\n", diferencia(d.direccion, d.esperado, d.obtenido).c_str());
+        resultado("Error.. " + diferencia(d.direccion, d.esperado, d.obtenido));
     const std::string total = cuenta(static_cast<std::size_t>(bytes), "byte verificado", "bytes verificados") + ", " +
                               cuenta(diferencias.size(), "diferencia", "diferencias");
     if (diferencias.empty()) {
         resumen(total);
         return salida::hecho;
     }
-    std::fprintf(terminal_.resultados, "%s\n", total.c_str());
+    resultado(total);
     return salida::distinto;
 }
 
@@ -243,11 +241,16 @@ void Programador::error(const std::string& mensaje)
     std::fprintf(terminal_.errores, "eeprog-cli: %s\n", mensaje.c_str());
 }
 
+void Programador::resultado(const std::string& mensaje)
+{
+    std::fprintf(terminal_.resultados, "%s\n", mensaje.c_str());
+}
+
 // The lines that say all went right; -q leaves them out.
 void Programador::resumen(const std::string& mensaje)
 {
     if (!opciones_.silencioso)
-        std::fprintf(terminal_.resultados, "%s\n", mensaje.c_str());
+        resultado(mensaje);
 }
 
 } // namespace eeprog

@@ -49,6 +49,7 @@ private:
     int guardar(const std::string& texto);
 
     void error(const std::string& mensaje);
+    void resultado(const std::string& mensaje);
     void resumen(const std::string& mensaje);
 
     Enlace enlace_;
