@@ -56,7 +56,8 @@ void Progreso::dibujar(int hechos)
     const int llenos = anchobarra * std::clamp(hechos, 0, total_) / total_;
     const std::string barra = std::string(static_cast<std::size_t>(llenos), '#') +
                               std::string(static_cast<std::size_t>(anchobarra - llenos), '.');
-    const std::string quedan = ritmo > 0 ? minutos((total_ - hechos) / ritmo) : "-:--";
+    // The rate of the first instants says little about the rest.
+    const std::string quedan = segundos >= 1 && ritmo > 0 ? minutos((total_ - hechos) / ritmo) : "-:--";
     std::fprintf(salida_, "\r%-11s [%s] %5d/%d bytes  %4.0f B/s  quedan %s\033[K", accion_.c_str(), barra.c_str(),
                  hechos, total_, ritmo, quedan.c_str());
     std::fflush(salida_);
