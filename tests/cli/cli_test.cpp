@@ -135,8 +135,10 @@ TEST_F(OrdenCli, ReadingGivesTheImageAndErasingLeavesABlankChip)
     const Corrida lleno = orden({"vacio"});
     EXPECT_EQ(lleno.estado, 1);
     EXPECT_EQ(lleno.salida, "El chip no está vacío: Direccion = 0001  Leido = 12\n");
-    EXPECT_EQ(orden({"borrar"}).estado, 0);
-    EXPECT_EQ(orden({"-q", "vacio"}).estado, 0);
+    for (const char* palabra : {"borrar", "vacio"}) {
+        const Corrida corrida = orden({"-q", palabra});
+        EXPECT_EQ(corrida.estado, 0) << palabra << ": " << corrida.errores;
+    }
 }
 
 // Ctrl+C in the middle of a read, or a board that stops answering: no file, and the port is
