@@ -24,6 +24,8 @@ Lee, graba y verifica el AT28C64B en la placa de eeprog, desde la línea de órd
   verificar ARCHIVO   compara el chip con el archivo y da cada diferencia
   borrar              escribe FF en todo el chip
   vacio               dice si todo el chip está en FF
+  desproteger         quita la protección de escritura del chip (si no graba)
+  proteger            pone la protección de escritura del chip
 
 Opciones:
   --puerto DISPOSITIVO  el puerto de la placa (si no, EEPROG_COM1 o /dev/ttyS0)
@@ -59,13 +61,15 @@ const std::array<option, 9> largas{{
     {nullptr, 0, nullptr, 0},
 }};
 
-constexpr std::array<std::pair<std::string_view, Orden>, 6> ordenes{{
+constexpr std::array<std::pair<std::string_view, Orden>, 8> ordenes{{
     {"comprobar", Orden::comprobar},
     {"leer", Orden::leer},
     {"grabar", Orden::grabar},
     {"verificar", Orden::verificar},
     {"borrar", Orden::borrar},
     {"vacio", Orden::vacio},
+    {"desproteger", Orden::desproteger},
+    {"proteger", Orden::proteger},
 }};
 
 Respuesta maluso(const std::string& motivo)

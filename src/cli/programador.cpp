@@ -4,6 +4,7 @@
 #include "cli/interrupcion.h"
 #include "cli/salida.h"
 #include "device/lectura.h"
+#include "device/proteccion.h"
 #include "device/verificacion.h"
 #include "link/conexion.h"
 #include "link/protocolo.h"
@@ -64,6 +65,10 @@ int Programador::ejecutar()
         return borrar();
     case Orden::vacio:
         return vacio();
+    case Orden::desproteger:
+        return proteccion(false);
+    case Orden::proteger:
+        return proteccion(true);
     }
     return salida::uso;
 }
@@ -93,11 +98,27 @@ int Programador::leer()
                                                                   : textoguardado(leido->textoleido));
 }
 
+// With --verificar the first frame is read before it is written: a chip that then holds the
+// same wrong bytes there has ignored the writes, as one with its protection on does.
 int Programador::grabar()
 {
     return conarchivo([this](const std::vector<Trama>& tramas) {
+        if (!opciones_.verificar)
+            return escribir(tramas, "Grabando");
+        const auto antes = comparartramas(enlace_, {tramas.front()}, [](int) {});
         const int escrito = escribir(tramas, "Grabando");
-        return opciones_.verificar ? std::max(escrito, comparar(tramas)) : escrito;
+        const auto despues = diferencias(tramas);
+        if (despues.empty())
+            return escrito;
+        const auto igual = [&](const Diferencia& a) {
+            return std::any_of(despues.begin(), despues.end(), [&](const Diferencia& d) {
+                return d.direccion == a.direccion && d.obtenido == a.obtenido;
+            });
+        };
+        if (!antes.empty() && std::all_of(antes.begin(), antes.end(), igual))
+            error("el chip no ha cambiado donde se grabó: si tiene la protección de escritura puesta, "
+                  "eeprog-cli desproteger la quita");
+        return salida::distinto;
     });
 }
 
@@ -202,19 +223,36 @@ int Programador::escribir(const std::vector<Trama>& tramas, const std::string& a
 
 int Programador::comparar(const std::vector<Trama>& tramas)
 {
+    return diferencias(tramas).empty() ? salida::hecho : salida::distinto;
+}
+
+// Verifies, and says each difference and then their count.
+std::vector<Diferencia> Programador::diferencias(const std::vector<Trama>& tramas)
+{
     const int bytes = bytesde(tramas);
-    const auto diferencias = comparartramas(enlace_, tramas, avance("Verificando", bytes));
+    auto halladas = comparartramas(enlace_, tramas, avance("Verificando", bytes));
     terminal_.progreso.terminar();
-    for (const Diferencia& d : diferencias)
+    for (const Diferencia& d : halladas)
         resultado("Error.. " + diferencia(d.direccion, d.esperado, d.obtenido));
     const std::string total = cuenta(static_cast<std::size_t>(bytes), "byte verificado", "bytes verificados") + ", " +
-                              cuenta(diferencias.size(), "diferencia", "diferencias");
-    if (diferencias.empty()) {
+                              cuenta(halladas.size(), "diferencia", "diferencias");
+    if (halladas.empty())
         resumen(total);
+    else
+        resultado(total);
+    return halladas;
+}
+
+int Programador::proteccion(bool proteger)
+{
+    return conplaca([&] {
+        if (!cambiarproteccion(enlace_, proteger)) {
+            error(dispositivo_ + ": la placa no dice haberlo hecho; su programa puede ser anterior a esta orden");
+            return salida::sinplaca;
+        }
+        resumen(proteger ? "Protección de escritura puesta" : "Protección de escritura quitada");
         return salida::hecho;
-    }
-    resultado(total);
-    return salida::distinto;
+    });
 }
 
 int Programador::guardar(const std::string& texto)

@@ -39,6 +39,7 @@ private:
     int verificar();
     int borrar();
     int vacio();
+    int proteccion(bool proteger);
 
     int conplaca(const std::function<int()>& operacion);
     int conarchivo(const std::function<int(const std::vector<Trama>&)>& operacion);
@@ -46,6 +47,7 @@ private:
     Avance avance(const std::string& accion, int total);
     int escribir(const std::vector<Trama>& tramas, const std::string& accion);
     int comparar(const std::vector<Trama>& tramas);
+    std::vector<Diferencia> diferencias(const std::vector<Trama>& tramas);
     int guardar(const std::string& texto);
 
     void error(const std::string& mensaje);

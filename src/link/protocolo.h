@@ -9,6 +9,11 @@ namespace eeprog::protocolo {
 inline const std::string comprobar = "c"; // check: the board answers "c"
 inline const std::string lectura = "r";   // read frame: count, address high, low, type, N pacing bytes
 inline const std::string escritura = "w"; // write frame: count, address high, low, type, N data bytes
+// Two more that the window never sends, for the chip's software data protection. Each is
+// answered by a byte of its own once the chip's sequence is over, so that a board which only
+// echoes what it does not know is told apart.
+inline const std::string desproteger = "d"; // answered "D"
+inline const std::string proteger = "p";    // answered "P"
 
 inline constexpr int tamanochip = 8192; // AT28C64B: addresses 0x0000 to 0x1FFF
 inline constexpr int tamanobloque = 16; // bytes a read frame of a whole-chip read carries

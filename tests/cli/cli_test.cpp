@@ -141,6 +141,28 @@ TEST_F(OrdenCli, ReadingGivesTheImageAndErasingLeavesABlankChip)
     }
 }
 
+// A chip bought with its write protection on ignores every write: the verify after it says
+// how to take the protection off, and once off the chip takes the file; put back on, it
+// ignores the next write.
+TEST_F(OrdenCli, AProtectedChipIgnoresWritesUntilUnprotected)
+{
+    Emulador placa({"--protegido", "--volcado", carpeta + "/volcado.bin"});
+    const auto orden = [&](std::vector<std::string> palabras) {
+        palabras.insert(palabras.begin(), {"-q", "--puerto", placa.ruta()});
+        return correr(palabras);
+    };
+    const std::string abc = escribir(":0300100041424327\n", "abc.hex");
+    const Corrida protegido = orden({"grabar", abc, "--verificar"});
+    EXPECT_EQ(protegido.estado, 1);
+    EXPECT_NE(protegido.errores.find("eeprog-cli desproteger"), std::string::npos) << protegido.errores;
+    EXPECT_EQ(orden({"desproteger"}).estado, 0);
+    EXPECT_EQ(orden({"grabar", abc, "--verificar"}).estado, 0);
+    EXPECT_EQ(orden({"proteger"}).estado, 0);
+    EXPECT_EQ(orden({"grabar", escribir(":01001000FFF0\n", "ff.hex")}).estado, 0);
+    ASSERT_EQ(placa.terminar(), 0);
+    EXPECT_EQ(leer("volcado.bin").substr(0x10, 3), "ABC");
+}
+
 // Ctrl+C in the middle of a read, or a board that stops answering: no file, and the port is
 // closed for the next run.
 TEST_F(OrdenCli, AnInterruptedOrBrokenReadLeavesNoFileAndClosesThePort)

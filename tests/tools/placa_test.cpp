@@ -38,6 +38,11 @@ TEST(Placa, AnswersEachConversationByteForByte)
          {{"w\1\0\2\1Ew\0\0\3\0r\2\0\2\0.."s, "w\1\0\2\1Ew\0\0\3\0r\2\0\2\0E\377"s}}},
         {"ANewSessionForgetsAHalfFrame",
          {{"w\2\0\x30\0a"s, "w\2\0\x30\0a"s}, {"br\2\0\x30\0.."s, "br\2\0\x30\0a\377"s}}},
+        // "p" turns the chip's write protection on and "d" off, answered "P" and "D" when done.
+        {"AProtectedChipKeepsItsDataUntilUnprotected",
+         {{"w\1\0\x70\0Xr\1\0\x70\0.dw\1\0\x70\0Xr\1\0\x70\0.pw\1\0\x70\0Yr\1\0\x70\0."s,
+           "w\1\0\x70\0Xr\1\0\x70\0\377Dw\1\0\x70\0Xr\1\0\x70\0XPw\1\0\x70\0Yr\1\0\x70\0X"s}},
+         {.protegido = true}},
         {"MudaNeverAnswers", {{"cw\1\0\0\0M"s, ""}}, {.muda = true}},
         // Whatever the first byte of a session, the board hangs after it.
         {"SilenciosaAnswersTheFirstCheckOfEachSession",

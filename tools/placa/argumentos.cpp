@@ -9,7 +9,7 @@ namespace eeprog {
 
 namespace {
 
-enum Opcion { imagen = 1, volcado, muda, silenciosa, ecoerroneo, ritmo, enlace, reacciones, ayuda };
+enum Opcion { imagen = 1, volcado, muda, silenciosa, ecoerroneo, ritmo, enlace, reacciones, protegido, ayuda };
 
 const option opciones[] = {
     {"imagen", required_argument, nullptr, imagen},
@@ -20,6 +20,7 @@ const option opciones[] = {
     {"ritmo", no_argument, nullptr, ritmo},
     {"enlace", required_argument, nullptr, enlace},
     {"reacciones", required_argument, nullptr, reacciones},
+    {"protegido", no_argument, nullptr, protegido},
     {"ayuda", no_argument, nullptr, ayuda},
     {nullptr, 0, nullptr, 0},
 };
@@ -58,6 +59,9 @@ bool tomar(int opcion, const char* valor, Argumentos& argumentos)
         return true;
     case reacciones:
         argumentos.reacciones = valor;
+        return true;
+    case protegido:
+        argumentos.placa.protegido = true;
         return true;
     case ayuda:
         argumentos.ayuda = true;
@@ -106,6 +110,8 @@ std::string uso()
            "  --volcado ARCHIVO    guarda el chip entero (8192 bytes) al terminar\n"
            "  --enlace RUTA        crea también el enlace RUTA hacia el puerto\n"
            "  --ritmo              responde al paso de una línea real de 9600 baudios\n"
+           "  --protegido          el chip empieza con su protección de escritura\n"
+           "                       (las órdenes d y p la quitan y la ponen)\n"
            "  --muda               no responde nunca\n"
            "  --silenciosa         responde a la primera comprobación de cada sesión\n"
            "                       y después se queda callada hasta que se reabre\n"

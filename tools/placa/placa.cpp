@@ -1,20 +1,22 @@
 #include "placa.h"
 
+#include <cstdint>
+
 namespace eeprog {
 
 namespace {
 
-constexpr unsigned char ordencomprobar = 0x63;
-constexpr unsigned char ordenleer = 0x72;
-constexpr unsigned char ordenescribir = 0x77;
-// The chip has 13 address lines; the board leaves the upper ones unconnected.
-constexpr unsigned mascara = Placa::tamano - 1;
+Placa& placade(void* contexto)
+{
+    return *static_cast<Placa*>(contexto);
+}
 
 } // namespace
 
-Placa::Placa(OpcionesPlaca opciones) : opciones(opciones)
+Placa::Placa(OpcionesPlaca opciones) : opciones(opciones), protegido_(opciones.protegido)
 {
     memoria.fill(0xFF); // an erased EEPROM reads all ones
+    iniciarprotocolo(&protocolo_);
 }
 
 std::optional<unsigned char> Placa::recibir(unsigned char byte)
@@ -30,13 +32,8 @@ std::optional<unsigned char> Placa::recibir(unsigned char byte)
 
 void Placa::conectar()
 {
-    actual = Estado::reposo;
+    iniciarprotocolo(&protocolo_);
     oido = false;
-}
-
-Placa::Estado Placa::estado() const
-{
-    return actual;
 }
 
 std::array<unsigned char, Placa::tamano>& Placa::chip()
@@ -54,87 +51,31 @@ std::optional<unsigned char> Placa::ensilencio(unsigned char byte)
 {
     bool primero = !oido;
     oido = true;
-    if (primero && byte == ordencomprobar) {
+    if (primero && byte == ORDENCOMPROBAR) {
         return atender(byte);
     }
     return std::nullopt;
 }
 
+// The chip as the table reaches it: a write cycle takes no time here, and a chip whose
+// software data protection is on keeps its data, as the real one does with a plain write.
+// A data byte heard wrong is what the firmware receives: it stores and echoes it so.
 unsigned char Placa::atender(unsigned char byte)
 {
-    switch (actual) {
-    case Estado::reposo:
-        return enreposo(byte);
-    case Estado::cuentalectura:
-    case Estado::cuentaescritura:
-        quedan = byte;
-        return pasar(Estado::alta, byte);
-    case Estado::alta:
-        direccion = static_cast<unsigned>(byte) << 8;
-        return pasar(Estado::baja, byte);
-    case Estado::baja:
-        direccion = (direccion | byte) & mascara;
-        return pasar(Estado::tipo, byte);
-    case Estado::tipo:
-        return entipo(byte);
-    case Estado::datoslectura:
-        return leerdato();
-    case Estado::datosescritura:
-        return escribirdato(byte);
-    }
-    return byte;
-}
-
-// The header bytes of a frame are echoed as they come.
-unsigned char Placa::pasar(Estado siguiente, unsigned char byte)
-{
-    actual = siguiente;
-    return byte;
-}
-
-// The reply to a command is ours to choose; echoing it lets a terminal user see it was heard.
-unsigned char Placa::enreposo(unsigned char byte)
-{
-    if (byte == ordenleer || byte == ordenescribir) {
-        escribiendo = byte == ordenescribir;
-        actual = escribiendo ? Estado::cuentaescritura : Estado::cuentalectura;
-    }
-    return byte;
-}
-
-// The record type is echoed and otherwise ignored: every frame carries data.
-unsigned char Placa::entipo(unsigned char byte)
-{
-    if (quedan == 0) {
-        return pasar(Estado::reposo, byte);
-    }
-    return pasar(escribiendo ? Estado::datosescritura : Estado::datoslectura, byte);
-}
-
-unsigned char Placa::leerdato()
-{
-    unsigned char dato = memoria[direccion];
-    avanzar();
-    return dato;
-}
-
-unsigned char Placa::escribirdato(unsigned char byte)
-{
-    ++datosoidos;
-    if (datosoidos == opciones.ecoerroneo) {
+    static constexpr auto leer = [](void* contexto, std::uint16_t direccion) -> std::uint8_t {
+        return placade(contexto).memoria[direccion];
+    };
+    static constexpr auto escribir = [](void* contexto, std::uint16_t direccion, std::uint8_t dato) {
+        if (!placade(contexto).protegido_)
+            placade(contexto).memoria[direccion] = dato;
+    };
+    static constexpr auto desproteger = [](void* contexto) { placade(contexto).protegido_ = false; };
+    static constexpr auto proteger = [](void* contexto) { placade(contexto).protegido_ = true; };
+    const ::chip bus{leer, escribir, desproteger, proteger, this};
+    if (protocolo_.estado == DATOS && protocolo_.escritura && ++datosoidos == opciones.ecoerroneo) {
         byte ^= 0x01;
     }
-    memoria[direccion] = byte;
-    avanzar();
-    return byte;
-}
-
-void Placa::avanzar()
-{
-    direccion = (direccion + 1) & mascara;
-    if (--quedan == 0) {
-        actual = Estado::reposo;
-    }
+    return atenderbyte(&protocolo_, &bus, byte);
 }
 
 } // namespace eeprog

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "protocolo.h"
+
 #include <array>
 #include <optional>
 
@@ -10,13 +12,14 @@ struct OpcionesPlaca {
     bool muda = false;       // never answers: no board, or a dead one
     bool silenciosa = false; // answers the first check of a session, then hangs until reopened
     long ecoerroneo = 0;     // the Nth written data byte (from 1, over the board's life) is heard wrong
+    bool protegido = false;  // the chip starts with its software data protection on
 };
 
-// The programmer board: the AT28C64B and the firmware that answers the program byte by byte.
+// The programmer board: the firmware's own protocol table over an AT28C64B held in memory,
+// with the faults of the options around it.
 class Placa {
 public:
-    static constexpr int tamano = 8192;
-    enum class Estado { reposo, cuentalectura, cuentaescritura, alta, baja, tipo, datoslectura, datosescritura };
+    static constexpr int tamano = TAMANOCHIP;
 
     explicit Placa(OpcionesPlaca opciones = {});
 
@@ -25,26 +28,18 @@ public:
     // The port was opened: a new session begins and any half-received frame is forgotten.
     void conectar();
 
-    Estado estado() const;
     std::array<unsigned char, tamano>& chip();
     const std::array<unsigned char, tamano>& chip() const;
+    bool protegido() const { return protegido_; }
 
 private:
     std::optional<unsigned char> ensilencio(unsigned char byte);
     unsigned char atender(unsigned char byte);
-    unsigned char pasar(Estado siguiente, unsigned char byte);
-    unsigned char enreposo(unsigned char byte);
-    unsigned char entipo(unsigned char byte);
-    unsigned char leerdato();
-    unsigned char escribirdato(unsigned char byte);
-    void avanzar();
 
     OpcionesPlaca opciones;
     std::array<unsigned char, tamano> memoria;
-    Estado actual = Estado::reposo;
-    bool escribiendo = false;
-    int quedan = 0;
-    unsigned direccion = 0;
+    bool protegido_;
+    struct protocolo protocolo_ {};
     bool oido = false;
     long datosoidos = 0;
 };
