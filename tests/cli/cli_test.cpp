@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <memory>
 
 namespace eeprog::prueba {
 namespace {
@@ -64,9 +65,50 @@ protected:
     std::string carpeta = std::filesystem::temp_directory_path() / "eeprog-cli-XXXXXX";
 };
 
+// The boards the orders are tried on: the emulator, and the simulated board that runs the
+// firmware, where the AVR tool chain and simavr were there to build them.
+struct Tablero {
+    const char* nombre;
+    std::string programa;
+};
+
+class OrdenPlaca : public OrdenCli, public testing::WithParamInterface<Tablero> {
+protected:
+    void SetUp() override
+    {
+        if (GetParam().programa.empty())
+            GTEST_SKIP() << "no simulated board: it needs gcc-avr, avr-libc and libsimavr-dev";
+        OrdenCli::SetUp();
+    }
+    bool simulada() const { return GetParam().programa != EEPROG_PLACA; }
+    std::unique_ptr<Emulador> placa(std::vector<std::string> opciones)
+    {
+        if (simulada())
+            opciones.insert(opciones.end(), {"--firmware", EEPROG_FIRMWARE, "--faltas", carpeta + "/faltas"});
+        return std::make_unique<Emulador>(opciones, GetParam().programa);
+    }
+    // The simulated chip recorded no fault of the firmware on its bus.
+    void terminar(Emulador& placa)
+    {
+        ASSERT_EQ(placa.terminar(), 0);
+        if (simulada()) {
+            EXPECT_EQ(leer("faltas"), "");
+        }
+    }
+    Corrida orden(const Emulador& placa, std::vector<std::string> palabras)
+    {
+        palabras.insert(palabras.begin(), {"-q", "--puerto", placa.ruta()});
+        return correr(palabras);
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(, OrdenPlaca,
+                         testing::Values(Tablero{"emulador", EEPROG_PLACA}, Tablero{"simulada", EEPROG_SIMPLACA}),
+                         [](const auto& info) { return std::string(info.param.nombre); });
+
 // Every shape of file leaves on the chip the bytes it gives, and nothing else; the rest of an
 // erased chip stays FF.
-TEST_F(OrdenCli, ProgrammingAndVerifyingLeaveTheChipTheFileGives)
+TEST_P(OrdenPlaca, ProgrammingAndVerifyingLeaveTheChipTheFileGives)
 {
     Chip chip;
     azar(chip, 7);
@@ -89,11 +131,11 @@ TEST_F(OrdenCli, ProgrammingAndVerifyingLeaveTheChipTheFileGives)
         SCOPED_TRACE(fila.nombre);
         if (!conobjcopy && fila.archivo.ends_with("chip.s"))
             continue;
-        Emulador placa({"--volcado", carpeta + "/volcado.bin"});
-        const Corrida corrida = correr({"--puerto", placa.ruta(), "grabar", fila.archivo, "--verificar"});
+        const auto tablero = placa({"--volcado", carpeta + "/volcado.bin"});
+        const Corrida corrida = correr({"--puerto", tablero->ruta(), "grabar", fila.archivo, "--verificar"});
         EXPECT_EQ(corrida.estado, 0) << corrida.errores;
         EXPECT_NE(corrida.salida.find(", 0 diferencias\n"), std::string::npos) << corrida.salida;
-        ASSERT_EQ(placa.terminar(), 0);
+        terminar(*tablero);
         EXPECT_EQ(leer("volcado.bin"), std::string(fila.esperado.begin(), fila.esperado.end()));
     }
 }
@@ -120,46 +162,39 @@ TEST_F(OrdenCli, AChangedByteOrAWrongEchoExitsOneNamingItsAddress)
         << eco.salida;
 }
 
-TEST_F(OrdenCli, ReadingGivesTheImageAndErasingLeavesABlankChip)
+TEST_P(OrdenPlaca, ReadingGivesTheImageAndErasingLeavesABlankChip)
 {
     Chip chip;
     azar(chip, 9);
     chip[0] = 0xFF, chip[1] = 0x12;
-    Emulador placa({"--imagen", imagen(chip)});
-    const std::vector<std::string> puerto{"--puerto", placa.ruta()};
-    const auto orden = [&](std::vector<std::string> palabras) {
-        palabras.insert(palabras.begin(), puerto.begin(), puerto.end());
-        return correr(palabras);
-    };
-    EXPECT_EQ(orden({"leer", "--formato", "bin"}).salida, std::string(chip.begin(), chip.end()));
-    const Corrida lleno = orden({"vacio"});
+    const auto tablero = placa({"--imagen", imagen(chip)});
+    EXPECT_EQ(orden(*tablero, {"comprobar"}).estado, 0);
+    EXPECT_EQ(orden(*tablero, {"leer", "--formato", "bin"}).salida, std::string(chip.begin(), chip.end()));
+    const Corrida lleno = orden(*tablero, {"vacio"});
     EXPECT_EQ(lleno.estado, 1);
     EXPECT_EQ(lleno.salida, "El chip no está vacío: Direccion = 0001  Leido = 12\n");
     for (const char* palabra : {"borrar", "vacio"}) {
-        const Corrida corrida = orden({"-q", palabra});
+        const Corrida corrida = orden(*tablero, {palabra});
         EXPECT_EQ(corrida.estado, 0) << palabra << ": " << corrida.errores;
     }
+    terminar(*tablero);
 }
 
 // A chip bought with its write protection on ignores every write: the verify after it says
 // how to take the protection off, and once off the chip takes the file; put back on, it
 // ignores the next write.
-TEST_F(OrdenCli, AProtectedChipIgnoresWritesUntilUnprotected)
+TEST_P(OrdenPlaca, AProtectedChipIgnoresWritesUntilUnprotected)
 {
-    Emulador placa({"--protegido", "--volcado", carpeta + "/volcado.bin"});
-    const auto orden = [&](std::vector<std::string> palabras) {
-        palabras.insert(palabras.begin(), {"-q", "--puerto", placa.ruta()});
-        return correr(palabras);
-    };
+    const auto tablero = placa({"--protegido", "--volcado", carpeta + "/volcado.bin"});
     const std::string abc = escribir(":0300100041424327\n", "abc.hex");
-    const Corrida protegido = orden({"grabar", abc, "--verificar"});
+    const Corrida protegido = orden(*tablero, {"grabar", abc, "--verificar"});
     EXPECT_EQ(protegido.estado, 1);
     EXPECT_NE(protegido.errores.find("eeprog-cli desproteger"), std::string::npos) << protegido.errores;
-    EXPECT_EQ(orden({"desproteger"}).estado, 0);
-    EXPECT_EQ(orden({"grabar", abc, "--verificar"}).estado, 0);
-    EXPECT_EQ(orden({"proteger"}).estado, 0);
-    EXPECT_EQ(orden({"grabar", escribir(":01001000FFF0\n", "ff.hex")}).estado, 0);
-    ASSERT_EQ(placa.terminar(), 0);
+    EXPECT_EQ(orden(*tablero, {"desproteger"}).estado, 0);
+    EXPECT_EQ(orden(*tablero, {"grabar", abc, "--verificar"}).estado, 0);
+    EXPECT_EQ(orden(*tablero, {"proteger"}).estado, 0);
+    EXPECT_EQ(orden(*tablero, {"grabar", escribir(":01001000FFF0\n", "ff.hex")}).estado, 0);
+    terminar(*tablero);
     EXPECT_EQ(leer("volcado.bin").substr(0x10, 3), "ABC");
 }
 

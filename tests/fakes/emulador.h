@@ -13,17 +13,17 @@
 namespace eeprog::prueba {
 
 // The board emulator program, eeprog-placa, run as a child of the test: the real thing on a
-// real pseudo-terminal. Every wait is bounded, so a broken emulator fails a test instead of
-// hanging it.
+// real pseudo-terminal. The simulated board, which runs the firmware, is run the same way.
+// Every wait is bounded, so a broken emulator fails a test instead of hanging it.
 class Emulador {
 public:
     static constexpr int paciencia = 10000; // ms
     // Time for the emulator to notice that the terminal was closed, before it is reopened.
     static constexpr std::chrono::milliseconds cambiodesesion{200};
 
-    explicit Emulador(std::vector<std::string> opciones = {})
+    explicit Emulador(std::vector<std::string> opciones = {}, const std::string& programa = EEPROG_PLACA)
     {
-        opciones.insert(opciones.begin(), EEPROG_PLACA);
+        opciones.insert(opciones.begin(), programa);
         std::vector<char*> argv;
         for (std::string& opcion : opciones)
             argv.push_back(opcion.data());
@@ -33,7 +33,7 @@ public:
             return;
         if ((pid_ = fork()) == 0) { // only calls that are safe between fork and exec
             dup2(tubo[1], STDOUT_FILENO);
-            execv(EEPROG_PLACA, argv.data());
+            execv(argv[0], argv.data());
             _exit(127);
         }
         close(tubo[1]);
