@@ -12,6 +12,8 @@ paquetes=(
   binutils srecord  # objcopy and srec_cat: the tests open the files they make
   fonts-liberation2 fonts-dejavu-core
   dpkg-dev file  # cpack -G DEB: dpkg-shlibdeps, and file to find the programs in the package
+  gcc-avr avr-libc binutils-avr  # the board's firmware
+  simavr libsimavr-dev libelf-dev  # the simulated board that runs it
 )
 # What a caller needs besides, such as the X server of the benchmarks.
 paquetes+=("$@")

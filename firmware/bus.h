@@ -1,0 +1,21 @@
+/* The AT28C64B on the ATmega16's pins: data on port A, address on port C and PB0-PB4, /CE, /OE
+ * and /WE on PD2-PD4. These are the functions of the protocol's struct chip; the bus keeps no
+ * state of its own, so their context is unused. */
+#ifndef EEPROG_BUS_H
+#define EEPROG_BUS_H
+
+#include <stdint.h>
+
+/* The control lines high before they become outputs; the data lines stay inputs as reset left
+ * them. */
+void iniciarbus(void);
+
+uint8_t leermemoria(void* contexto, uint16_t direccion);
+
+/* Returns once DATA polling shows the write cycle over, or after some 27 ms. */
+void escribirmemoria(void* contexto, uint16_t direccion, uint8_t dato);
+
+void desprotegermemoria(void* contexto);
+void protegermemoria(void* contexto);
+
+#endif
