@@ -72,6 +72,11 @@ struct Tablero {
     std::string programa;
 };
 
+void PrintTo(const Tablero& tablero, std::ostream* salida)
+{
+    *salida << tablero.nombre;
+}
+
 class OrdenPlaca : public OrdenCli, public testing::WithParamInterface<Tablero> {
 protected:
     void SetUp() override

@@ -1,5 +1,7 @@
 #include "servidor.h"
 
+#include "pseudoterminal.h"
+
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/prctl.h>
@@ -85,16 +87,8 @@ Servidor::~Servidor()
 
 bool Servidor::abrir()
 {
-    maestro = posix_openpt(O_RDWR | O_NOCTTY);
-    if (maestro < 0 || grantpt(maestro) != 0 || unlockpt(maestro) != 0) {
-        return false;
-    }
-    const char* nombre = ptsname(maestro);
-    if (nombre == nullptr) {
-        return false;
-    }
-    esclavo = nombre;
-    return ponerencrudo();
+    maestro = abrirpseudoterminal(esclavo);
+    return maestro >= 0;
 }
 
 const std::string& Servidor::ruta() const
@@ -107,26 +101,6 @@ void Servidor::servir(const volatile std::sig_atomic_t& terminar)
     while (!terminar) {
         vigilar();
     }
-}
-
-// Settings made now outlive this close and hold for whoever opens the terminal next, so a
-// program that leaves them alone still gets every byte through untouched.
-bool Servidor::ponerencrudo()
-{
-    int lado = open(esclavo.c_str(), O_RDWR | O_NOCTTY);
-    if (lado < 0) {
-        return false;
-    }
-    termios modo{};
-    bool hecho = tcgetattr(lado, &modo) == 0;
-    if (hecho) {
-        cfmakeraw(&modo);
-        cfsetispeed(&modo, B9600);
-        cfsetospeed(&modo, B9600);
-        hecho = tcsetattr(lado, TCSANOW, &modo) == 0;
-    }
-    close(lado);
-    return hecho;
 }
 
 // Hang-up means no one has the terminal open; the first byte after one begins a session.

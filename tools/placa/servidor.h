@@ -32,7 +32,6 @@ public:
     const std::vector<long>& reacciones() const { return reacciones_; }
 
 private:
-    bool ponerencrudo();
     void vigilar();
     void comenzarsesion();
     bool atender(bool responder);

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace eeprog {
+
+// The AT28C64B's pins at one moment. Control lines are their levels (true is high, the idle
+// state of the active-low /CE, /OE and /WE); datos is what the microcontroller puts on the
+// data bus, and conducidos which of its bits it drives.
+struct Patas {
+    bool ce = true;
+    bool oe = true;
+    bool we = true;
+    std::uint16_t direccion = 0;
+    std::uint8_t datos = 0;
+    std::uint8_t conducidos = 0;
+};
+
+// The chip as the microcontroller's pins see it, with time in nanoseconds: whoever drives it
+// tells it every change of its pins and lets its own time pass, and it answers with what it
+// drives on the data bus. It keeps the bus faults a real chip would suffer from.
+class ChipModelo {
+public:
+    static constexpr int tamano = 8192;
+    using Memoria = std::array<std::uint8_t, tamano>;
+
+    ChipModelo(const Memoria& contenido, std::int64_t ciclo, bool protegido);
+
+    // The pins as they are from the moment ahora on.
+    void cambiar(const Patas& nuevas, std::int64_t ahora);
+    // Lets the chip's own time run to ahora: the load window closes, the write cycle ends.
+    void avanzar(std::int64_t ahora);
+    // When the chip will next change by itself, if it is waiting for anything.
+    std::optional<std::int64_t> proximo() const;
+
+    // What the chip drives on the data bus, and from when it is valid after the access times.
+    std::optional<std::uint8_t> salida() const;
+    std::int64_t validadesde() const { return valida; }
+
+    const Memoria& memoria() const { return celdas; }
+    bool protegido() const { return proteccion; }
+    // One line per fault, in the order they happened.
+    const std::vector<std::string>& faltas() const { return registro; }
+
+private:
+    struct Carga {
+        std::uint16_t direccion;
+        std::uint8_t dato;
+    };
+    enum class Estado { reposo, cargando, escribiendo };
+
+    bool pulsando(const Patas& patas) const;
+    void empezarpulso(std::int64_t ahora);
+    void acabarpulso(std::uint8_t dato, std::int64_t ahora);
+    void cargar(std::uint16_t direccion, std::uint8_t dato, std::int64_t ahora);
+    void empezarciclo();
+    void acabarciclo();
+    void vigilarconflicto(std::int64_t ahora);
+    void anotar(std::int64_t ahora, const std::string& texto);
+
+    Memoria celdas;
+    std::int64_t ciclo;
+    bool proteccion;
+    Patas patas;
+    Estado estado = Estado::reposo;
+    std::vector<Carga> cargas;
+    std::vector<Carga> pendientes;  // what the running write cycle will store
+    bool protecciondespues = false; // the protection once the running cycle ends
+    std::int64_t finventana = 0;
+    std::int64_t finciclo = 0;
+    std::optional<std::int64_t> iniciopulso;
+    std::uint16_t direccionpulso = 0;
+    std::uint8_t ultimo = 0; // the last byte loaded, which DATA polling shows inverted in I/O7
+    bool alterno = false;    // I/O6, which toggles on each read while the chip is busy
+    bool enconflicto = false;
+    std::int64_t valida = 0;
+    std::vector<std::string> registro;
+};
+
+} // namespace eeprog

@@ -1,0 +1,120 @@
+#include "opciones.h"
+
+#include <getopt.h>
+#include <cerrno>
+#include <cstdlib>
+#include <iostream>
+
+namespace eeprog {
+
+namespace {
+
+enum Clave { firmware = 1, enlace, imagen, volcado, faltas, protegido, ciclo, ayuda };
+
+const option claves[] = {
+    {"firmware", required_argument, nullptr, firmware},
+    {"enlace", required_argument, nullptr, enlace},
+    {"imagen", required_argument, nullptr, imagen},
+    {"volcado", required_argument, nullptr, volcado},
+    {"faltas", required_argument, nullptr, faltas},
+    {"protegido", no_argument, nullptr, protegido},
+    {"ciclo", required_argument, nullptr, ciclo},
+    {"ayuda", no_argument, nullptr, ayuda},
+    {nullptr, 0, nullptr, 0},
+};
+
+// A second is far past any real chip's cycle, and keeps the nanoseconds well inside range.
+constexpr long ciclomaximo = 1'000'000;
+
+std::optional<long> microsegundos(const char* texto)
+{
+    char* fin = nullptr;
+    errno = 0;
+    const long numero = std::strtol(texto, &fin, 10);
+    if (errno != 0 || fin == texto || *fin != '\0' || numero <= 0 || numero > ciclomaximo)
+        return std::nullopt;
+    return numero;
+}
+
+bool tomar(int clave, const char* valor, Opciones& opciones)
+{
+    switch (clave) {
+    case firmware:
+        opciones.firmware = valor;
+        return true;
+    case enlace:
+        opciones.enlace = valor;
+        return true;
+    case imagen:
+        opciones.imagen = valor;
+        return true;
+    case volcado:
+        opciones.volcado = valor;
+        return true;
+    case faltas:
+        opciones.faltas = valor;
+        return true;
+    case protegido:
+        opciones.protegido = true;
+        return true;
+    case ayuda:
+        opciones.ayuda = true;
+        return true;
+    case ciclo:
+        if (const auto numero = microsegundos(valor)) {
+            opciones.ciclo = *numero;
+            return true;
+        }
+        std::cerr << "eeprog-simplaca: --ciclo pide microsegundos, de 1 a " << ciclomaximo << ": " << valor << '\n';
+        return false;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+std::optional<Opciones> leeropciones(int argc, char* argv[])
+{
+    Opciones opciones;
+    opterr = 0; // getopt's own messages are not in Spanish
+    optind = 1;
+    int clave = 0;
+    while ((clave = getopt_long(argc, argv, ":", claves, nullptr)) != -1) {
+        if (!tomar(clave, optarg, opciones)) {
+            std::cerr << "eeprog-simplaca: opción no válida o sin su valor: " << argv[optind - 1] << '\n';
+            return std::nullopt;
+        }
+    }
+    if (optind < argc) {
+        std::cerr << "eeprog-simplaca: sobra el argumento " << argv[optind] << '\n';
+        return std::nullopt;
+    }
+    if (opciones.firmware.empty() && !opciones.ayuda) {
+        std::cerr << "eeprog-simplaca: falta --firmware con el ELF de la placa\n";
+        return std::nullopt;
+    }
+    return opciones;
+}
+
+std::string usosimulada()
+{
+    return "Uso: eeprog-simplaca --firmware ELF [OPCIONES]\n"
+           "Simula la placa programadora: su ATmega16 a 7,3728 MHz corre el firmware\n"
+           "ELF y maneja un AT28C64B simulado; su puerto serie es un pseudoterminal.\n"
+           "La primera línea de la salida es la ruta del puerto. La placa sigue activa\n"
+           "hasta Ctrl+C.\n"
+           "\n"
+           "  --firmware ELF       el firmware de la placa\n"
+           "  --enlace RUTA        crea también el enlace RUTA hacia el puerto\n"
+           "  --imagen ARCHIVO     contenido inicial del chip (binario, desde 0x0000);\n"
+           "                       sin él, el chip está borrado (todo FF)\n"
+           "  --volcado ARCHIVO    guarda el chip entero (8192 bytes) al terminar\n"
+           "  --protegido          el chip empieza con la protección de datos puesta\n"
+           "  --ciclo MICROSEGUNDOS  duración del ciclo de escritura del chip (1000)\n"
+           "  --faltas ARCHIVO     al terminar, escribe una línea por cada falta en el\n"
+           "                       bus del chip (vacío si no hubo ninguna)\n"
+           "  --ayuda              muestra esta ayuda\n";
+}
+
+} // namespace eeprog

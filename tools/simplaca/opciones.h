@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace eeprog {
+
+// What the simulated board was asked for on its command line.
+struct Opciones {
+    std::string firmware;
+    std::string enlace;
+    std::string imagen;
+    std::string volcado;
+    std::string faltas;
+    bool protegido = false;
+    std::int64_t ciclo = 1000; // the chip's write cycle, in microseconds
+    bool ayuda = false;
+};
+
+// Nothing when the command line is wrong; the reason has then gone to the error output.
+std::optional<Opciones> leeropciones(int argc, char* argv[]);
+
+std::string usosimulada();
+
+} // namespace eeprog

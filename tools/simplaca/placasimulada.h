@@ -1,0 +1,67 @@
+#pragma once
+
+#include "chipmodelo.h"
+
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <string>
+
+struct avr_t;
+struct avr_irq_t;
+
+namespace eeprog {
+
+// The board's ATmega16 running its firmware in simavr, wired to the chip as the board is:
+// data on port A, address on ports C and B, /CE, /OE and /WE on PD2-PD4, and its UART
+// taking bytes from the program and giving back the firmware's replies.
+class PlacaSimulada {
+public:
+    static constexpr std::uint32_t frecuencia = 7'372'800;
+
+    // Nothing when the firmware cannot be loaded; the reason, in Spanish, is left in error.
+    static std::unique_ptr<PlacaSimulada> crear(const std::string& firmware, ChipModelo& chip, std::string& error);
+    ~PlacaSimulada();
+    PlacaSimulada(const PlacaSimulada&) = delete;
+    PlacaSimulada& operator=(const PlacaSimulada&) = delete;
+
+    // Runs the core until its clock reaches hasta, in nanoseconds since reset, or until the
+    // firmware has sent a byte, which should not wait. False once the core has stopped for
+    // good (a crash, or a firmware that ended).
+    bool correr(std::int64_t hasta);
+    std::int64_t ahora() const;
+
+    // Bytes from the program, handed to the UART as fast as its receiver takes them.
+    void recibir(const std::string& bytes);
+    // The firmware's bytes sent since the last call.
+    std::string tomarsalida();
+
+private:
+    PlacaSimulada(avr_t* avr, ChipModelo& chip);
+    void conectar();
+    Patas leerpatas() const;
+    void cambiopatas();
+    void refrescar();
+    void conducir(std::uint8_t valor);
+    void entregar();
+    std::int64_t nanosegundos(std::uint64_t ciclos) const;
+    std::uint64_t ciclos(std::int64_t nanosegundos) const;
+
+    static void alpuerto(avr_irq_t* irq, std::uint32_t valor, void* placa);
+    static void aldireccion(avr_irq_t* irq, std::uint32_t valor, void* placa);
+    static void alenviar(avr_irq_t* irq, std::uint32_t valor, void* placa);
+    static void alxon(avr_irq_t* irq, std::uint32_t valor, void* placa);
+    static void alxoff(avr_irq_t* irq, std::uint32_t valor, void* placa);
+    static std::uint64_t alreloj(avr_t* avr, std::uint64_t cuando, void* placa);
+
+    avr_t* avr;
+    ChipModelo& chip;
+    avr_irq_t* datos[8] = {};
+    avr_irq_t* entrada = nullptr;
+    std::uint8_t ddra = 0; // port A's direction as just written: the register lags its hook
+    std::deque<std::uint8_t> pendientes;
+    bool admite = false; // the receiver has room (simavr's xon)
+    std::string salida;
+};
+
+} // namespace eeprog
