@@ -1,9 +1,9 @@
 #include "argumentos.h"
 
-#include <getopt.h>
-#include <cerrno>
-#include <cstdlib>
+#include "orden.h"
+
 #include <iostream>
+#include <limits>
 
 namespace eeprog {
 
@@ -24,17 +24,6 @@ const option opciones[] = {
     {"ayuda", no_argument, nullptr, ayuda},
     {nullptr, 0, nullptr, 0},
 };
-
-std::optional<long> numeropositivo(const char* texto)
-{
-    char* fin = nullptr;
-    errno = 0;
-    long numero = std::strtol(texto, &fin, 10);
-    if (errno != 0 || fin == texto || *fin != '\0' || numero <= 0) {
-        return std::nullopt;
-    }
-    return numero;
-}
 
 bool tomar(int opcion, const char* valor, Argumentos& argumentos)
 {
@@ -67,7 +56,7 @@ bool tomar(int opcion, const char* valor, Argumentos& argumentos)
         argumentos.ayuda = true;
         return true;
     case ecoerroneo:
-        if (auto numero = numeropositivo(valor)) {
+        if (auto numero = numeroentre(valor, 1, std::numeric_limits<long>::max())) {
             argumentos.placa.ecoerroneo = *numero;
             return true;
         }
@@ -83,19 +72,9 @@ bool tomar(int opcion, const char* valor, Argumentos& argumentos)
 std::optional<Argumentos> leerargumentos(int argc, char* argv[])
 {
     Argumentos argumentos;
-    opterr = 0; // getopt's own messages are not in Spanish
-    optind = 1;
-    int opcion = 0;
-    while ((opcion = getopt_long(argc, argv, ":", opciones, nullptr)) != -1) {
-        if (!tomar(opcion, optarg, argumentos)) {
-            std::cerr << "eeprog-placa: opción no válida o sin su valor: " << argv[optind - 1] << '\n';
-            return std::nullopt;
-        }
-    }
-    if (optind < argc) {
-        std::cerr << "eeprog-placa: sobra el argumento " << argv[optind] << '\n';
+    const auto tomarla = [&](int opcion, const char* valor) { return tomar(opcion, valor, argumentos); };
+    if (!recorreropciones("eeprog-placa", argc, argv, opciones, tomarla))
         return std::nullopt;
-    }
     return argumentos;
 }
 

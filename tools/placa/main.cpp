@@ -4,37 +4,17 @@
 #include "argumentos.h"
 #include "enlacesimbolico.h"
 #include "imagen.h"
+#include "orden.h"
 #include "placa.h"
 #include "servidor.h"
 
 #include <csignal>
 #include <fstream>
 #include <iostream>
-#include <signal.h>
 
 namespace {
 
-volatile std::sig_atomic_t terminar = 0;
-
-void alterminar(int)
-{
-    terminar = 1;
-}
-
-// Without SA_RESTART a signal breaks the wait on the terminal, so the end is prompt and
-// the dump and the link are dealt with before leaving.
-void instalarsenales()
-{
-    struct sigaction accion {};
-    accion.sa_handler = alterminar;
-    sigemptyset(&accion.sa_mask);
-    accion.sa_flags = 0;
-    for (int senal : {SIGINT, SIGTERM, SIGHUP}) {
-        sigaction(senal, &accion, nullptr);
-    }
-}
-
-int servir(eeprog::Placa& placa, const eeprog::Argumentos& argumentos)
+int servir(eeprog::Placa& placa, const eeprog::Argumentos& argumentos, const volatile std::sig_atomic_t& terminar)
 {
     eeprog::Servidor servidor(placa, argumentos.ritmo);
     if (!servidor.abrir()) {
@@ -85,8 +65,7 @@ int main(int argc, char* argv[])
         std::cerr << "eeprog-placa: no se puede leer la imagen " << argumentos->imagen << '\n';
         return 1;
     }
-    instalarsenales();
-    int resultado = servir(placa, *argumentos);
+    int resultado = servir(placa, *argumentos, eeprog::vigilarfin());
     if (resultado == 0 && !volcar(placa, argumentos->volcado)) {
         resultado = 1;
     }

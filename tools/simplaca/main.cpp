@@ -5,6 +5,7 @@
 #include "enlacesimbolico.h"
 #include "imagen.h"
 #include "opciones.h"
+#include "orden.h"
 #include "placasimulada.h"
 #include "puente.h"
 
@@ -14,26 +15,8 @@
 #include <fstream>
 #include <iostream>
 #include <limits>
-#include <signal.h>
 
 namespace {
-
-volatile std::sig_atomic_t terminar = 0;
-
-void alterminar(int)
-{
-    terminar = 1;
-}
-
-// Without SA_RESTART a signal breaks the wait on the terminal, so the end is prompt.
-void instalarsenales()
-{
-    struct sigaction accion {};
-    accion.sa_handler = alterminar;
-    sigemptyset(&accion.sa_mask);
-    for (int senal : {SIGINT, SIGTERM, SIGHUP})
-        sigaction(senal, &accion, nullptr);
-}
 
 std::int64_t reloj()
 {
@@ -49,7 +32,7 @@ constexpr std::int64_t adelanto = 50'000'000;
 // The longest the core runs between two looks at the terminal.
 constexpr std::int64_t tramo = 1'000'000;
 
-bool simular(eeprog::PlacaSimulada& placa, eeprog::Puente& puente)
+bool simular(eeprog::PlacaSimulada& placa, eeprog::Puente& puente, const volatile std::sig_atomic_t& terminar)
 {
     std::int64_t anclareloj = reloj();
     std::int64_t anclasim = placa.ahora();
@@ -72,7 +55,7 @@ bool simular(eeprog::PlacaSimulada& placa, eeprog::Puente& puente)
     return true;
 }
 
-int servir(eeprog::PlacaSimulada& placa, const eeprog::Opciones& opciones)
+int servir(eeprog::PlacaSimulada& placa, const eeprog::Opciones& opciones, const volatile std::sig_atomic_t& terminar)
 {
     eeprog::Puente puente;
     if (!puente.abrir()) {
@@ -84,7 +67,7 @@ int servir(eeprog::PlacaSimulada& placa, const eeprog::Opciones& opciones)
         return 1;
     }
     std::cout << puente.ruta() << std::endl;
-    const bool bien = simular(placa, puente);
+    const bool bien = simular(placa, puente, terminar);
     if (!opciones.enlace.empty())
         eeprog::desenlazar(opciones.enlace, puente.ruta());
     return bien ? 0 : 1;
@@ -138,8 +121,7 @@ int main(int argc, char* argv[])
         std::cerr << "eeprog-simplaca: " << error << '\n';
         return 1;
     }
-    instalarsenales();
-    const int resultado = servir(*placa, *opciones);
+    const int resultado = servir(*placa, *opciones, eeprog::vigilarfin());
     // A write cycle under way finishes on the chip's own, as it would after the board stops.
     chip.avanzar(std::numeric_limits<std::int64_t>::max());
     return guardar(chip, *opciones) ? resultado : 1;

@@ -1,8 +1,7 @@
 #include "opciones.h"
 
-#include <getopt.h>
-#include <cerrno>
-#include <cstdlib>
+#include "orden.h"
+
 #include <iostream>
 
 namespace eeprog {
@@ -25,16 +24,6 @@ const option claves[] = {
 
 // A second is far past any real chip's cycle, and keeps the nanoseconds well inside range.
 constexpr long ciclomaximo = 1'000'000;
-
-std::optional<long> microsegundos(const char* texto)
-{
-    char* fin = nullptr;
-    errno = 0;
-    const long numero = std::strtol(texto, &fin, 10);
-    if (errno != 0 || fin == texto || *fin != '\0' || numero <= 0 || numero > ciclomaximo)
-        return std::nullopt;
-    return numero;
-}
 
 bool tomar(int clave, const char* valor, Opciones& opciones)
 {
@@ -61,7 +50,7 @@ bool tomar(int clave, const char* valor, Opciones& opciones)
         opciones.ayuda = true;
         return true;
     case ciclo:
-        if (const auto numero = microsegundos(valor)) {
+        if (const auto numero = numeroentre(valor, 1, ciclomaximo)) {
             opciones.ciclo = *numero;
             return true;
         }
@@ -77,19 +66,9 @@ bool tomar(int clave, const char* valor, Opciones& opciones)
 std::optional<Opciones> leeropciones(int argc, char* argv[])
 {
     Opciones opciones;
-    opterr = 0; // getopt's own messages are not in Spanish
-    optind = 1;
-    int clave = 0;
-    while ((clave = getopt_long(argc, argv, ":", claves, nullptr)) != -1) {
-        if (!tomar(clave, optarg, opciones)) {
-            std::cerr << "eeprog-simplaca: opción no válida o sin su valor: " << argv[optind - 1] << '\n';
-            return std::nullopt;
-        }
-    }
-    if (optind < argc) {
-        std::cerr << "eeprog-simplaca: sobra el argumento " << argv[optind] << '\n';
+    const auto tomarla = [&](int clave, const char* valor) { return tomar(clave, valor, opciones); };
+    if (!recorreropciones("eeprog-simplaca", argc, argv, claves, tomarla))
         return std::nullopt;
-    }
     if (opciones.firmware.empty() && !opciones.ayuda) {
         std::cerr << "eeprog-simplaca: falta --firmware con el ELF de la placa\n";
         return std::nullopt;
