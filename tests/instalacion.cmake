@@ -20,6 +20,7 @@ function(comprobar raiz)
     ${raiz}/share/applications/eeprog.desktop
     ${raiz}/share/metainfo/eeprog.metainfo.xml
     ${raiz}/share/doc/eeprog/copyright
+    ${raiz}/share/doc/eeprog/changelog.gz
     ${raiz}/share/icons/hicolor/48x48/apps/eeprog.png
     ${raiz}/share/icons/hicolor/scalable/apps/eeprog.svg
     ${manuales})
