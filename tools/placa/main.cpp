@@ -5,6 +5,7 @@
 #include "enlacesimbolico.h"
 #include "imagen.h"
 #include "orden.h"
+#include "plataforma/senales.h"
 #include "placa.h"
 #include "servidor.h"
 
@@ -21,11 +22,9 @@ int servir(eeprog::Placa& placa, const eeprog::Argumentos& argumentos, const vol
         std::cerr << "eeprog-placa: el sistema no da un pseudoterminal\n";
         return 1;
     }
-    if (!argumentos.enlace.empty() && !eeprog::enlazar(argumentos.enlace, servidor.ruta())) {
-        std::cerr << "eeprog-placa: no se puede crear el enlace " << argumentos.enlace << '\n';
+    if (!eeprog::anunciar("eeprog-placa", servidor.ruta(), argumentos.enlace)) {
         return 1;
     }
-    std::cout << servidor.ruta() << std::endl;
     servidor.servir(terminar);
     if (!argumentos.enlace.empty()) {
         eeprog::desenlazar(argumentos.enlace, servidor.ruta());
@@ -65,7 +64,7 @@ int main(int argc, char* argv[])
         std::cerr << "eeprog-placa: no se puede leer la imagen " << argumentos->imagen << '\n';
         return 1;
     }
-    int resultado = servir(placa, *argumentos, eeprog::vigilarfin());
+    int resultado = servir(placa, *argumentos, eeprog::vigilarsenales({SIGINT, SIGTERM, SIGHUP}));
     if (resultado == 0 && !volcar(placa, argumentos->volcado)) {
         resultado = 1;
     }

@@ -6,6 +6,7 @@
 #include "imagen.h"
 #include "opciones.h"
 #include "orden.h"
+#include "plataforma/senales.h"
 #include "placasimulada.h"
 #include "puente.h"
 
@@ -62,11 +63,8 @@ int servir(eeprog::PlacaSimulada& placa, const eeprog::Opciones& opciones, const
         std::cerr << "eeprog-simplaca: el sistema no da un pseudoterminal\n";
         return 1;
     }
-    if (!opciones.enlace.empty() && !eeprog::enlazar(opciones.enlace, puente.ruta())) {
-        std::cerr << "eeprog-simplaca: no se puede crear el enlace " << opciones.enlace << '\n';
+    if (!eeprog::anunciar("eeprog-simplaca", puente.ruta(), opciones.enlace))
         return 1;
-    }
-    std::cout << puente.ruta() << std::endl;
     const bool bien = simular(placa, puente, terminar);
     if (!opciones.enlace.empty())
         eeprog::desenlazar(opciones.enlace, puente.ruta());
@@ -121,7 +119,7 @@ int main(int argc, char* argv[])
         std::cerr << "eeprog-simplaca: " << error << '\n';
         return 1;
     }
-    const int resultado = servir(*placa, *opciones, eeprog::vigilarfin());
+    const int resultado = servir(*placa, *opciones, eeprog::vigilarsenales({SIGINT, SIGTERM, SIGHUP}));
     // A write cycle under way finishes on the chip's own, as it would after the board stops.
     chip.avanzar(std::numeric_limits<std::int64_t>::max());
     return guardar(chip, *opciones) ? resultado : 1;

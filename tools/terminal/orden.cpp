@@ -1,25 +1,12 @@
 #include "orden.h"
 
-#include <signal.h>
+#include "enlacesimbolico.h"
 
 #include <cerrno>
 #include <cstdlib>
-#include <initializer_list>
 #include <iostream>
 
 namespace eeprog {
-
-namespace {
-
-// A signal handler may only set a flag of this type, so the flag lives here.
-volatile std::sig_atomic_t fin = 0;
-
-void anotarfin(int)
-{
-    fin = 1;
-}
-
-} // namespace
 
 bool recorreropciones(const char* programa, int argc, char* argv[], const option* claves,
                       const std::function<bool(int clave, const char* valor)>& tomar)
@@ -49,14 +36,14 @@ std::optional<long> numeroentre(const char* texto, long minimo, long maximo)
     return numero;
 }
 
-const volatile std::sig_atomic_t& vigilarfin()
+bool anunciar(const char* programa, const std::string& ruta, const std::string& enlace)
 {
-    struct sigaction accion {};
-    accion.sa_handler = anotarfin;
-    sigemptyset(&accion.sa_mask);
-    for (const int senal : {SIGINT, SIGTERM, SIGHUP})
-        sigaction(senal, &accion, nullptr);
-    return fin;
+    if (!enlace.empty() && !enlazar(enlace, ruta)) {
+        std::cerr << programa << ": no se puede crear el enlace " << enlace << '\n';
+        return false;
+    }
+    std::cout << ruta << std::endl;
+    return true;
 }
 
 } // namespace eeprog

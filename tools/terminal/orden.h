@@ -2,12 +2,12 @@
 
 #include <getopt.h>
 
-#include <csignal>
 #include <functional>
 #include <optional>
+#include <string>
 
 // What the two board programs share on their command line: the reading of their options and
-// their end on a signal.
+// the announcement of their terminal.
 namespace eeprog {
 
 // Reads the options with getopt_long, giving each to tomar; says in Spanish, after the
@@ -18,8 +18,8 @@ bool recorreropciones(const char* programa, int argc, char* argv[], const option
 // A whole number from min to max, or nothing.
 std::optional<long> numeroentre(const char* texto, long minimo, long maximo);
 
-// From here on SIGINT, SIGTERM and SIGHUP only set the flag this gives. Without SA_RESTART a
-// signal also breaks a wait on the terminal, so the end is prompt.
-const volatile std::sig_atomic_t& vigilarfin();
+// Makes the link to the terminal, if one was asked for, and prints the terminal's path as the
+// program's first line. False, and said in Spanish, when the link cannot be made.
+bool anunciar(const char* programa, const std::string& ruta, const std::string& enlace);
 
 } // namespace eeprog
