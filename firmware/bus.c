@@ -12,7 +12,7 @@
 
 /* From the last byte loaded the chip waits 150 us for another before its write cycle, which
  * lasts at most 10 ms. Polling gives up after 2000 waits of 10 us and their reads, some 27 ms,
- * so a reply always comes well within the program's 100 ms. */
+ * so even a byte written twice is answered well within the program's 100 ms. */
 #define ESPERASONDEO 10 /* us */
 #define VUELTASSONDEO 2000u
 #define CICLOESCRITURA 10 /* ms */
@@ -66,18 +66,36 @@ uint8_t leermemoria(void* contexto, uint16_t direccion)
     return leerdatos();
 }
 
-/* DATA polling: until the cycle ends a read of the byte gives I/O7 inverted. A write the
- * chip's protection ignores polls the same for its timed cycle and then gives the old byte,
- * whose I/O7 may never match: the bound ends that wait. */
+/* The toggle bit: while the chip is busy, I/O6 changes from one read to the next, at any
+ * address. Unlike DATA polling it also ends on a write the chip's protection ignored, whose
+ * cycle leaves the old byte, and on a chip that has nothing to show. */
+static void esperarciclo(void)
+{
+    uint8_t antes = leerdatos();
+    for (uint16_t vuelta = 0; vuelta < VUELTASSONDEO; ++vuelta) {
+        _delay_us(ESPERASONDEO);
+        const uint8_t ahora = leerdatos();
+        if (((antes ^ ahora) & 0x40) == 0)
+            return;
+        antes = ahora;
+    }
+}
+
 void escribirmemoria(void* contexto, uint16_t direccion, uint8_t dato)
 {
     (void)contexto;
     cargarbyte(direccion, dato);
-    for (uint16_t vuelta = 0; vuelta < VUELTASSONDEO; ++vuelta) {
-        if (((leerdatos() ^ dato) & 0x80) == 0)
-            return;
-        _delay_us(ESPERASONDEO);
-    }
+    esperarciclo();
+}
+
+void escribirprotegida(void* contexto, uint16_t direccion, uint8_t dato)
+{
+    (void)contexto;
+    cargarbyte(0x1555, 0xAA);
+    cargarbyte(0x0AAA, 0x55);
+    cargarbyte(0x1555, 0xA0);
+    cargarbyte(direccion, dato);
+    esperarciclo();
 }
 
 /* The sequences are page loads, each byte well within 150 us of the last; the chip then runs

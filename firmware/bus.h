@@ -12,8 +12,11 @@ void iniciarbus(void);
 
 uint8_t leermemoria(void* contexto, uint16_t direccion);
 
-/* Returns once DATA polling shows the write cycle over, or after some 27 ms. */
+/* Each returns once the toggle bit shows the write cycle over, or after some 27 ms. */
 void escribirmemoria(void* contexto, uint16_t direccion, uint8_t dato);
+/* The byte behind the data sheet's three-byte sequence, in one page load: a chip whose
+ * software data protection is on takes it, and the protection stays on. */
+void escribirprotegida(void* contexto, uint16_t direccion, uint8_t dato);
 
 void desprotegermemoria(void* contexto);
 void protegermemoria(void* contexto);

@@ -1,5 +1,6 @@
 /* The programmer board's firmware, for the ATmega16 at 7.3728 MHz: each byte from the program
- * goes to the protocol and its reply goes back. A reset starts the protocol idle. */
+ * goes to the protocol and its reply goes back. A reset starts the protocol idle, and so does
+ * a silence in the middle of a frame. */
 #include "bus.h"
 #include "protocolo.h"
 #include "uart.h"
@@ -18,9 +19,15 @@ int main(void)
     apagarjtag();
     iniciarbus();
     iniciaruart();
-    const struct chip memoria = {leermemoria, escribirmemoria, desprotegermemoria, protegermemoria, 0};
+    const struct chip memoria = {leermemoria, escribirmemoria, escribirprotegida, desprotegermemoria,
+                                 protegermemoria, 0};
     struct protocolo protocolo;
     iniciarprotocolo(&protocolo);
-    for (;;)
-        enviar(atenderbyte(&protocolo, &memoria, recibir()));
+    for (;;) {
+        const int16_t byte = recibir(TICKSSILENCIO(TIEMPOREPOSO));
+        if (byte < 0)
+            volverareposo(&protocolo);
+        else
+            enviar(atenderbyte(&protocolo, &memoria, (uint8_t)byte));
+    }
 }

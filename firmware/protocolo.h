@@ -25,11 +25,22 @@ enum {
 /* The AT28C64B: 13 address lines; the board leaves the upper ones unconnected. */
 #define TAMANOCHIP 8192u
 
-/* What the protocol needs of the chip. escribir returns once the chip has finished its write
- * cycle; desproteger and proteger once their sequence and its cycle are over. */
+/* Milliseconds of silence on the line after which a frame left half way is given up and the
+ * board is idle again. The board cannot see a port being opened, so a program that died in
+ * the middle of a frame would otherwise have the next program's bytes taken as that frame's
+ * data. Inside a frame the program's longest silence is the budget of one reply, 0.1 s to
+ * 0.2 s; half a second is well above that and below the half second the window takes to
+ * send its first byte after it starts. */
+#define TIEMPOREPOSO 500
+
+/* What the protocol needs of the chip. escribir and escribirprotegido return once the chip has
+ * finished its write cycle: the first is a plain byte write, the second the same byte behind
+ * the three bytes that let it through the chip's software data protection, which stays as it
+ * was. desproteger and proteger return once their sequence and its cycle are over. */
 struct chip {
     uint8_t (*leer)(void *contexto, uint16_t direccion);
     void (*escribir)(void *contexto, uint16_t direccion, uint8_t dato);
+    void (*escribirprotegido)(void *contexto, uint16_t direccion, uint8_t dato);
     void (*desproteger)(void *contexto);
     void (*proteger)(void *contexto);
     void *contexto;
@@ -37,19 +48,24 @@ struct chip {
 
 enum estadoprotocolo { REPOSO, CUENTA, ALTA, BAJA, TIPO, DATOS };
 
-/* Where the board stands in a frame; nothing lasts from one frame to the next. */
+/* Where the board stands in a frame, and what it has learnt of the chip since the last check:
+ * each operation opens with a check, and the chip may have been changed between two. */
 struct protocolo {
     uint8_t estado;    /* an estadoprotocolo */
     uint8_t escritura; /* 1 in a write frame */
     uint8_t quedan;    /* data bytes left in the frame */
     uint16_t direccion;
+    uint8_t protegido; /* 1 once a plain write was ignored and a protected one went through */
 };
 
-/* Idle, as after a reset or when the port is opened again. */
+/* Idle, as after a reset. */
 void iniciarprotocolo(struct protocolo *p);
 
 /* The reply to one byte from the program. */
 uint8_t atenderbyte(struct protocolo *p, const struct chip *c, uint8_t byte);
+
+/* The line has been quiet for TIEMPOREPOSO: a frame left half way is over. */
+void volverareposo(struct protocolo *p);
 
 #ifdef __cplusplus
 }

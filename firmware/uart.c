@@ -12,13 +12,24 @@ void iniciaruart(void)
     UCSRA = 0;
     UCSRC = _BV(URSEL) | _BV(UCSZ1) | _BV(UCSZ0);
     UCSRB = _BV(RXEN) | _BV(TXEN);
+    TCCR1B = _BV(CS12) | _BV(CS10);
 }
 
-uint8_t recibir(void)
+/* The status bits belong to the byte at the head of the receive buffer, so they are read
+ * before it; reading the byte moves them on. A byte dropped leaves the count running. */
+int16_t recibir(uint16_t silencio)
 {
-    while (!(UCSRA & _BV(RXC))) {
+    TCNT1 = 0;
+    for (;;) {
+        const uint8_t estado = UCSRA;
+        if (estado & _BV(RXC)) {
+            const uint8_t byte = UDR;
+            if (!(estado & (_BV(FE) | _BV(DOR))))
+                return byte;
+        } else if (TCNT1 >= silencio) {
+            return -1;
+        }
     }
-    return UDR;
 }
 
 void enviar(uint8_t byte)
