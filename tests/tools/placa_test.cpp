@@ -18,9 +18,10 @@ using eeprog::prueba::Emulador;
 using namespace std::string_literals;
 
 // Each session is opened anew and gets its bytes one at a time; a silent byte adds nothing
-// to the replies. A frame is its order ("r" read, "w" write), a count, the address high
-// byte first, a type, and count bytes, which a read frame answers with the chip's bytes:
-// "w\2\1\x20\0AB" writes "AB" at 0x0120. What a session writes shows in what a read answers.
+// to the replies, and a session with no bytes stands for the line's silence. A frame is its
+// order ("r" read, "w" write), a count, the address high byte first, a type, and count
+// bytes, which a read frame answers with the chip's bytes: "w\2\1\x20\0AB" writes "AB" at
+// 0x0120. What a session writes shows in what a read answers.
 TEST(Placa, AnswersEachConversationByteForByte)
 {
     const struct {
@@ -36,12 +37,13 @@ TEST(Placa, AnswersEachConversationByteForByte)
         {"AddressesWrapIntoTheChip", {{"w\4\xFF\xFE\0wxyzr\2\x3F\xFF\0.."s, "w\4\xFF\xFE\0wxyzr\2\x3F\xFF\0xy"s}}},
         {"TypeIsIgnoredAndCountZeroEndsAFrame",
          {{"w\1\0\2\1Ew\0\0\3\0r\2\0\2\0.."s, "w\1\0\2\1Ew\0\0\3\0r\2\0\2\0E\377"s}}},
-        {"ANewSessionForgetsAHalfFrame",
-         {{"w\2\0\x30\0a"s, "w\2\0\x30\0a"s}, {"br\2\0\x30\0.."s, "br\2\0\x30\0a\377"s}}},
+        // The board cannot see the port reopened: only a silence ends a frame left half way.
+        {"AHalfFrameLastsUntilASilence",
+         {{"w\3\0\x30\0a"s, "w\3\0\x30\0a"s}, {"b"s, "b"s}, {}, {"cr\3\0\x30\0..."s, "cr\3\0\x30\0ab\377"s}}},
         // "p" turns the chip's write protection on and "d" off, answered "P" and "D" when done.
-        {"AProtectedChipKeepsItsDataUntilUnprotected",
-         {{"w\1\0\x70\0Xr\1\0\x70\0.dw\1\0\x70\0Xr\1\0\x70\0.pw\1\0\x70\0Yr\1\0\x70\0."s,
-           "w\1\0\x70\0Xr\1\0\x70\0\377Dw\1\0\x70\0Xr\1\0\x70\0XPw\1\0\x70\0Yr\1\0\x70\0X"s}},
+        {"AProtectedChipIsWrittenThroughItsProtection",
+         {{"w\1\0\x70\0Xr\1\0\x70\0.dpw\1\0\x70\0Yr\1\0\x70\0."s,
+           "w\1\0\x70\0Xr\1\0\x70\0XDPw\1\0\x70\0Yr\1\0\x70\0Y"s}},
          {.protegido = true}},
         {"MudaNeverAnswers", {{"cw\1\0\0\0M"s, ""}}, {.muda = true}},
         // Whatever the first byte of a session, the board hangs after it.
@@ -60,6 +62,8 @@ TEST(Placa, AnswersEachConversationByteForByte)
         eeprog::Placa placa(caso.opciones);
         for (const auto& [entrada, salida] : caso.sesiones) {
             placa.conectar();
+            if (entrada.empty())
+                placa.silencio();
             std::string respuestas;
             for (char byte : entrada)
                 if (auto respuesta = placa.recibir(static_cast<unsigned char>(byte)))
@@ -67,6 +71,24 @@ TEST(Placa, AnswersEachConversationByteForByte)
             EXPECT_EQ(respuestas, salida) << caso.nombre;
         }
     }
+}
+
+// A plain write that the chip's protection ignored goes again protected, and the rest of the
+// operation goes protected at once, one write cycle a byte, until the next check "c". The
+// protection stays on.
+TEST(Placa, AProtectedChipCostsOneMoreWriteCycleAnOperation)
+{
+    eeprog::Placa placa({.protegido = true});
+    const auto enviar = [&](const std::string& bytes) {
+        for (char byte : bytes)
+            placa.recibir(static_cast<unsigned char>(byte));
+    };
+    enviar("cw\3\0\x40\0ABC"s);
+    EXPECT_EQ(placa.ciclos(), 4);
+    enviar("cw\1\0\x43\0D"s);
+    EXPECT_EQ(placa.ciclos(), 6);
+    EXPECT_EQ(std::string(placa.chip().begin() + 0x40, placa.chip().begin() + 0x44), "ABCD");
+    EXPECT_TRUE(placa.protegido());
 }
 
 // Each byte waits for its reply before the next goes; the talk ends at the first silence.
@@ -97,8 +119,10 @@ TEST(EeprogPlaca, ServesSessionsDumpsTheChipOnExitAndRefusesBadOptions)
                        carpeta + "/com1", "--ritmo"});
     ASSERT_FALSE(emulador.ruta().empty());
     // Bytes that a terminal left cooked would translate, swallow or wait on; then a half
-    // frame, which the next session must not take up.
+    // frame, which the next session must not take up once the line has been quiet for the
+    // board's half second.
     EXPECT_EQ(conversar(carpeta + "/com1", "cw\3\0\x10\0\r\x11\0w\1\0\x20\0"s), "cw\3\0\x10\0\r\x11\0w\1\0\x20\0"s);
+    std::this_thread::sleep_for(std::chrono::milliseconds(600));
     EXPECT_EQ(conversar(emulador.ruta(), "r\1\0\x20\0\0"s), "r\1\0\x20\0\xFF"s);
     EXPECT_EQ(emulador.terminar(), 0);
     EXPECT_FALSE(std::filesystem::is_symlink(carpeta + "/com1"));

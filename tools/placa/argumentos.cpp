@@ -9,7 +9,7 @@ namespace eeprog {
 
 namespace {
 
-enum Opcion { imagen = 1, volcado, muda, silenciosa, ecoerroneo, ritmo, enlace, reacciones, protegido, ayuda };
+enum Opcion { imagen = 1, volcado, muda, silenciosa, ecoerroneo, ritmo, enlace, reacciones, protegido, estado, ayuda };
 
 const option opciones[] = {
     {"imagen", required_argument, nullptr, imagen},
@@ -21,6 +21,7 @@ const option opciones[] = {
     {"enlace", required_argument, nullptr, enlace},
     {"reacciones", required_argument, nullptr, reacciones},
     {"protegido", no_argument, nullptr, protegido},
+    {"estado", required_argument, nullptr, estado},
     {"ayuda", no_argument, nullptr, ayuda},
     {nullptr, 0, nullptr, 0},
 };
@@ -51,6 +52,9 @@ bool tomar(int opcion, const char* valor, Argumentos& argumentos)
         return true;
     case protegido:
         argumentos.placa.protegido = true;
+        return true;
+    case estado:
+        argumentos.estado = valor;
         return true;
     case ayuda:
         argumentos.ayuda = true;
@@ -91,6 +95,8 @@ std::string uso()
            "  --ritmo              responde al paso de una línea real de 9600 baudios\n"
            "  --protegido          el chip empieza con su protección de escritura\n"
            "                       (las órdenes d y p la quitan y la ponen)\n"
+           "  --estado ARCHIVO     al terminar, escribe si el chip queda protegido\n"
+           "                       o desprotegido\n"
            "  --muda               no responde nunca\n"
            "  --silenciosa         responde a la primera comprobación de cada sesión\n"
            "                       y después se queda callada hasta que se reabre\n"

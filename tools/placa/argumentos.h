@@ -14,6 +14,7 @@ struct Argumentos {
     std::string volcado;
     std::string enlace;
     std::string reacciones;
+    std::string estado;
     bool ritmo = false;
     bool ayuda = false;
 };

@@ -23,4 +23,12 @@ bool volcarimagen(const std::string& ruta, const std::array<unsigned char, 8192>
     return !archivo.fail();
 }
 
+bool escribirproteccion(const std::string& ruta, bool protegido)
+{
+    std::ofstream archivo(ruta, std::ios::trunc);
+    archivo << (protegido ? "protegido\n" : "desprotegido\n");
+    archivo.close();
+    return !archivo.fail();
+}
+
 } // namespace eeprog

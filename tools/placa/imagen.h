@@ -14,4 +14,8 @@ bool cargarimagen(const std::string& ruta, std::array<unsigned char, 8192>& chip
 // Writes all 8192 bytes. False when the file cannot be written.
 bool volcarimagen(const std::string& ruta, const std::array<unsigned char, 8192>& chip);
 
+// The chip's software data protection as the board leaves it, one line: "protegido" or
+// "desprotegido". False when the file cannot be written.
+bool escribirproteccion(const std::string& ruta, bool protegido);
+
 } // namespace eeprog

@@ -37,13 +37,19 @@ int servir(eeprog::Placa& placa, const eeprog::Argumentos& argumentos, const vol
     return 0;
 }
 
-bool volcar(const eeprog::Placa& placa, const std::string& ruta)
+// What the chip holds and how it is protected, where the command line asked for them.
+bool volcar(const eeprog::Placa& placa, const eeprog::Argumentos& argumentos)
 {
-    if (ruta.empty() || eeprog::volcarimagen(ruta, placa.chip())) {
-        return true;
+    bool bien = true;
+    if (!argumentos.volcado.empty() && !eeprog::volcarimagen(argumentos.volcado, placa.chip())) {
+        std::cerr << "eeprog-placa: no se puede escribir el volcado " << argumentos.volcado << '\n';
+        bien = false;
     }
-    std::cerr << "eeprog-placa: no se puede escribir el volcado " << ruta << '\n';
-    return false;
+    if (!argumentos.estado.empty() && !eeprog::escribirproteccion(argumentos.estado, placa.protegido())) {
+        std::cerr << "eeprog-placa: no se puede escribir el estado " << argumentos.estado << '\n';
+        bien = false;
+    }
+    return bien;
 }
 
 } // namespace
@@ -65,7 +71,7 @@ int main(int argc, char* argv[])
         return 1;
     }
     int resultado = servir(placa, *argumentos, eeprog::vigilarsenales({SIGINT, SIGTERM, SIGHUP}));
-    if (resultado == 0 && !volcar(placa, argumentos->volcado)) {
+    if (resultado == 0 && !volcar(placa, *argumentos)) {
         resultado = 1;
     }
     return resultado;

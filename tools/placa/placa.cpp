@@ -1,8 +1,13 @@
 #include "placa.h"
 
+#include "link/protocolo.h"
+
 #include <cstdint>
 
 namespace eeprog {
+
+// The program waits out the board's idle time, which the board's own table sets.
+static_assert(protocolo::reposo == TIEMPOREPOSO);
 
 namespace {
 
@@ -32,8 +37,12 @@ std::optional<unsigned char> Placa::recibir(unsigned char byte)
 
 void Placa::conectar()
 {
-    iniciarprotocolo(&protocolo_);
     oido = false;
+}
+
+void Placa::silencio()
+{
+    volverareposo(&protocolo_);
 }
 
 std::array<unsigned char, Placa::tamano>& Placa::chip()
@@ -58,20 +67,27 @@ std::optional<unsigned char> Placa::ensilencio(unsigned char byte)
 }
 
 // The chip as the table reaches it: a write cycle takes no time here, and a chip whose
-// software data protection is on keeps its data, as the real one does with a plain write.
-// A data byte heard wrong is what the firmware receives: it stores and echoes it so.
+// software data protection is on keeps its data, as the real one does with a plain write,
+// while a protected write goes through. A data byte heard wrong is what the firmware
+// receives: it stores and echoes it so.
 unsigned char Placa::atender(unsigned char byte)
 {
     static constexpr auto leer = [](void* contexto, std::uint16_t direccion) -> std::uint8_t {
         return placade(contexto).memoria[direccion];
     };
     static constexpr auto escribir = [](void* contexto, std::uint16_t direccion, std::uint8_t dato) {
-        if (!placade(contexto).protegido_)
-            placade(contexto).memoria[direccion] = dato;
+        Placa& placa = placade(contexto);
+        ++placa.ciclos_;
+        if (!placa.protegido_)
+            placa.memoria[direccion] = dato;
+    };
+    static constexpr auto escribirprotegido = [](void* contexto, std::uint16_t direccion, std::uint8_t dato) {
+        ++placade(contexto).ciclos_;
+        placade(contexto).memoria[direccion] = dato;
     };
     static constexpr auto desproteger = [](void* contexto) { placade(contexto).protegido_ = false; };
     static constexpr auto proteger = [](void* contexto) { placade(contexto).protegido_ = true; };
-    const ::chip bus{leer, escribir, desproteger, proteger, this};
+    const ::chip bus{leer, escribir, escribirprotegido, desproteger, proteger, this};
     if (protocolo_.estado == DATOS && protocolo_.escritura && ++datosoidos == opciones.ecoerroneo) {
         byte ^= 0x01;
     }

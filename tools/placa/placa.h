@@ -16,7 +16,8 @@ struct OpcionesPlaca {
 };
 
 // The programmer board: the firmware's own protocol table over an AT28C64B held in memory,
-// with the faults of the options around it.
+// with the faults of the options around it. Its state lasts as long as the board: a frame
+// left half way ends only by a silence, as on the real board.
 class Placa {
 public:
     static constexpr int tamano = TAMANOCHIP;
@@ -25,12 +26,17 @@ public:
 
     // One byte from the program; the board answers with at most one.
     std::optional<unsigned char> recibir(unsigned char byte);
-    // The port was opened: a new session begins and any half-received frame is forgotten.
+    // The port was opened. The board cannot see it, as the real one has no line to tell it:
+    // a frame left half way goes on, and only the faults that count sessions start again.
     void conectar();
+    // The line has been quiet for the board's idle time.
+    void silencio();
 
     std::array<unsigned char, tamano>& chip();
     const std::array<unsigned char, tamano>& chip() const;
     bool protegido() const { return protegido_; }
+    // The chip's write cycles so far, taken or ignored: what wears it.
+    int ciclos() const { return ciclos_; }
 
 private:
     std::optional<unsigned char> ensilencio(unsigned char byte);
@@ -39,6 +45,7 @@ private:
     OpcionesPlaca opciones;
     std::array<unsigned char, tamano> memoria;
     bool protegido_;
+    int ciclos_ = 0;
     struct protocolo protocolo_ {};
     bool oido = false;
     long datosoidos = 0;

@@ -42,6 +42,11 @@ timespec sumar(timespec momento, long nanosegundos)
     return momento;
 }
 
+long nanosegundosentre(const timespec& antes, const timespec& despues)
+{
+    return (despues.tv_sec - antes.tv_sec) * 1'000'000'000L + (despues.tv_nsec - antes.tv_nsec);
+}
+
 bool llegado(const timespec& momento)
 {
     const timespec actual = ahora();
@@ -144,10 +149,13 @@ bool Servidor::atender(bool responder)
     }
     const timespec llegada = ahora();
     if (respondido_) {
-        reacciones_.push_back((llegada.tv_sec - respondido_->tv_sec) * 1'000'000 +
-                              (llegada.tv_nsec - respondido_->tv_nsec) / 1000);
+        reacciones_.push_back(nanosegundosentre(*respondido_, llegada) / 1000);
         respondido_.reset();
     }
+    if (ultimo_ && nanosegundosentre(*ultimo_, llegada) >= TIEMPOREPOSO * 1'000'000L) {
+        placa.silencio();
+    }
+    ultimo_ = llegada;
     timespec plazo = sumar(llegada, dosbytes);
     std::string respuestas;
     for (ssize_t i = 0; i < leidos; ++i) {
@@ -173,7 +181,7 @@ void Servidor::enviar(const std::string& respuestas, const timespec& plazo)
         }
     }
     escribirtodo(maestro, respuestas);
-    respondido_ = ahora();
+    respondido_ = ultimo_ = ahora();
 }
 
 } // namespace eeprog

@@ -44,6 +44,7 @@ private:
     bool conectado = false;
     std::vector<long> reacciones_;
     std::optional<timespec> respondido_;
+    std::optional<timespec> ultimo_; // the last byte heard or answered, for the board's silence
 };
 
 } // namespace eeprog
