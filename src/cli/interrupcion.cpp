@@ -6,18 +6,28 @@ namespace eeprog {
 
 namespace {
 
-const volatile std::sig_atomic_t* senalada = nullptr;
+const volatile std::sig_atomic_t* senaladas = nullptr;
+
+int cuenta()
+{
+    return senaladas != nullptr ? *senaladas : 0;
+}
 
 } // namespace
 
 void vigilarinterrupciones()
 {
-    senalada = &vigilarsenales({SIGINT, SIGTERM});
+    senaladas = &vigilarsenales({SIGINT, SIGTERM, SIGHUP});
 }
 
 bool interrumpido()
 {
-    return senalada != nullptr && *senalada != 0;
+    return cuenta() >= 1;
+}
+
+bool abandonado()
+{
+    return cuenta() >= 2;
 }
 
 } // namespace eeprog

@@ -2,12 +2,17 @@
 
 namespace eeprog {
 
-// Thrown at the next byte of an operation after Ctrl+C or SIGTERM, so that the operation's
-// frame closes the port and no file is written.
+// Ctrl+C, SIGTERM or a closed terminal: thrown at the end of the frame under way, so the board
+// is idle when the operation's frame closes the port, and no file is written.
 struct Interrupcion {};
 
-// From here on the two signals are only noted; the operations look at the note byte by byte.
+// A second one: thrown at the next byte, leaving the board inside its frame until the line has
+// been quiet for the board's idle time.
+struct Abandono {};
+
+// From here on the signals are only counted; the operations look at the count as they go.
 void vigilarinterrupciones();
 bool interrumpido();
+bool abandonado();
 
 } // namespace eeprog

@@ -2,6 +2,7 @@
 
 #include "cli/entrada.h"
 #include "cli/interrupcion.h"
+#include "cli/marcatrama.h"
 #include "cli/salida.h"
 #include "device/lectura.h"
 #include "device/proteccion.h"
@@ -13,7 +14,9 @@
 #include "records/hexadecimal.h"
 
 #include <algorithm>
+#include <chrono>
 #include <memory>
+#include <thread>
 
 namespace eeprog {
 
@@ -22,6 +25,20 @@ namespace {
 // A reply given up in the middle of an operation: the board has gone, and waiting out every
 // byte that is left would take a tenth of a second each.
 struct PlacaCallada {};
+
+// The board's idle time, and some more for a byte still on its way when the last run ended.
+constexpr std::chrono::milliseconds esperareposo{protocolo::reposo * 6 / 5};
+
+// A Ctrl+C meanwhile ends the run before it has sent anything.
+void esperarreposo()
+{
+    const auto fin = std::chrono::steady_clock::now() + esperareposo;
+    while (std::chrono::steady_clock::now() < fin) {
+        if (interrumpido())
+            throw Interrupcion{};
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+}
 
 std::string cuenta(std::size_t numero, const std::string& singular, const std::string& plural)
 {
@@ -99,13 +116,14 @@ int Programador::leer()
 }
 
 // With --verificar the first frame is read before it is written: a chip that then holds the
-// same wrong bytes there has ignored the writes, as one with its protection on does.
+// same wrong bytes there has ignored the writes. Our board writes through the chip's
+// protection, so the chip is missing or dead; a board with an older program does not.
 int Programador::grabar()
 {
     return conarchivo([this](const std::vector<Trama>& tramas) {
         if (!opciones_.verificar)
             return escribir(tramas, "Grabando");
-        const auto antes = comparartramas(enlace_, {tramas.front()}, [](int) {});
+        const auto antes = comparartramas(enlace_, {tramas.front()}, {[](int) {}});
         const int escrito = escribir(tramas, "Grabando");
         const auto despues = diferencias(tramas);
         if (despues.empty())
@@ -116,8 +134,8 @@ int Programador::grabar()
             });
         };
         if (!antes.empty() && std::all_of(antes.begin(), antes.end(), igual))
-            error("el chip no ha cambiado donde se grabó: si tiene la protección de escritura puesta, "
-                  "eeprog-cli desproteger la quita");
+            error("el chip no ha cambiado donde se grabó: revise que esté bien puesto en el zócalo; si la placa "
+                  "lleva un programa anterior y el chip tiene la protección de escritura, eeprog-cli desproteger la quita");
         return salida::distinto;
     });
 }
@@ -150,21 +168,39 @@ int Programador::vacio()
     });
 }
 
+// The board is known idle when the port closes after the last frame's end, or an interruption
+// thrown there; then the next run needs no wait.
 int Programador::conplaca(const std::function<int()>& operacion)
 {
     if (!enlace_.serial()) {
         error("no se puede abrir el dispositivo " + dispositivo_);
         return salida::sinplaca;
     }
+    const MarcaTrama marca(dispositivo_);
     int estado = salida::sinplaca;
+    bool hablado = false;
+    bool enreposo = false;
     try {
-        if (comprobarconexion(enlace_))
+        if (marca.puesta()) {
+            esperarreposo();
+            enlace_.descartar();
+        }
+        marca.poner();
+        hablado = true;
+        if (comprobarconexion(enlace_)) {
             estado = operacion();
-        else
+            enreposo = true;
+        } else {
             error(dispositivo_ + ": Programador..... NO EXISTE CONECCION");
+        }
     } catch (const Interrupcion&) {
         terminal_.progreso.terminar();
-        error("interrumpido: el puerto queda cerrado y no se escribe nada");
+        error("interrumpido: el puerto queda cerrado y no se escribe ningún archivo");
+        estado = salida::interrumpido;
+        enreposo = hablado;
+    } catch (const Abandono&) {
+        terminal_.progreso.terminar();
+        error("interrumpido en medio de una trama: la placa vuelve al reposo tras medio segundo sin recibir nada");
         estado = salida::interrumpido;
     } catch (const PlacaCallada&) {
         terminal_.progreso.terminar();
@@ -172,6 +208,8 @@ int Programador::conplaca(const std::function<int()>& operacion)
         estado = salida::sinplaca;
     }
     enlace_.cerrar();
+    if (enreposo)
+        marca.quitar();
     return estado;
 }
 
@@ -192,16 +230,22 @@ void Programador::leerentero(Leido& leido)
     terminal_.progreso.terminar();
 }
 
+// A first interruption waits for the frame's end, so the board is left idle; a second, or a
+// board that has gone quiet, ends the operation at the next byte.
 Avance Programador::avance(const std::string& accion, int total)
 {
     terminal_.progreso.empezar(accion, total);
-    return [this](int hechos) {
-        if (interrumpido())
-            throw Interrupcion{};
-        if (enlace_.sinrespuestas() > 0)
-            throw PlacaCallada{};
-        terminal_.progreso.avanzar(hechos);
-    };
+    return {[this](int hechos) {
+                if (abandonado())
+                    throw Abandono{};
+                if (enlace_.sinrespuestas() > 0)
+                    throw PlacaCallada{};
+                terminal_.progreso.avanzar(hechos);
+            },
+            [] {
+                if (interrumpido())
+                    throw Interrupcion{};
+            }};
 }
 
 int Programador::escribir(const std::vector<Trama>& tramas, const std::string& accion)

@@ -39,10 +39,11 @@ void leerchip(Enlace& enlace, Leido& leido, const Avance& avance)
             suma += valor;
             leido.vectorleido[static_cast<std::size_t>(cuenta++)] = static_cast<std::int16_t>(valor);
             linea += doscifras(valor);
-            avance(cuenta);
+            avance.dato(cuenta);
         }
         // The low byte of the two's complement of the sum: the Intel HEX checksum.
         leido.textoleido += linea + doscifras(-suma & 0xFF) + std::string(saltolinea);
+        avance.trama();
     }
 }
 
@@ -50,11 +51,11 @@ void leerchip(Enlace& enlace, Leido& leido, const Avance& avance)
 void lectura(Enlace& enlace, Leido& leido, PantallaOperacion pantalla)
 {
     pantalla.ProgressBar1.maximo(bloques);
-    leerchip(enlace, leido, [&](int cuenta) {
-        pantalla.StatusBar1.panel(1, std::to_string(cuenta) + "  Bytes leidos");
-        if (cuenta % protocolo::tamanobloque == 0)
-            pantalla.ProgressBar1.valor(cuenta / protocolo::tamanobloque - 1);
-    });
+    leerchip(enlace, leido, {[&](int cuenta) {
+                 pantalla.StatusBar1.panel(1, std::to_string(cuenta) + "  Bytes leidos");
+                 if (cuenta % protocolo::tamanobloque == 0)
+                     pantalla.ProgressBar1.valor(cuenta / protocolo::tamanobloque - 1);
+             }});
     pantalla.StatusBar1.panel(1, std::to_string(protocolo::tamanochip) +
                                      "  Bytes leidos = " + hexa(protocolo::tamanochip) + "H");
 }

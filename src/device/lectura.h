@@ -13,7 +13,8 @@ namespace eeprog {
 // goes on to its end whatever it meets. The port must be open and the board checked.
 void lectura(Enlace& enlace, Leido& leido, PantallaOperacion pantalla);
 
-// The same read with nothing shown but the count of bytes read, after each byte.
+// The same read with nothing shown but the count of bytes read, after each byte, and the end
+// of each frame.
 void leerchip(Enlace& enlace, Leido& leido, const Avance& avance);
 
 } // namespace eeprog

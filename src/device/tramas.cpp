@@ -29,8 +29,9 @@ std::vector<Diferencia> enviar(Enlace& enlace, const std::string& orden, const s
             if (hexa(respuesta) != hexa(valor))
                 diferencias.push_back({direccion & 0xFFFF, valor, respuesta});
             if (++direccion > trama.direccion())
-                avance(++hechos);
+                avance.dato(++hechos);
         }
+        avance.trama();
     }
     return diferencias;
 }

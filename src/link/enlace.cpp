@@ -15,6 +15,11 @@ void Enlace::cerrar()
     puerto_.cerrar();
 }
 
+void Enlace::descartar()
+{
+    puerto_.leer();
+}
+
 void Enlace::enviardato(const std::string& dato)
 {
     puerto_.escribir(dato);

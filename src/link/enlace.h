@@ -22,6 +22,10 @@ public:
     bool serial();
     void cerrar();
 
+    // Drops what has arrived unasked, such as the reply to the last byte of a program that
+    // died before reading it.
+    void descartar();
+
     void enviardato(const std::string& dato);
     std::string recibirdato();
     std::string intercambio(const std::string& dato);

@@ -19,6 +19,9 @@ inline constexpr int tamanochip = 8192; // AT28C64B: addresses 0x0000 to 0x1FFF
 inline constexpr int tamanobloque = 16; // bytes a read frame of a whole-chip read carries
 inline constexpr int tipodatos = 0;     // the record type of plain data
 
+// Milliseconds of silence after which the board gives up a frame left half way and is idle.
+inline constexpr int reposo = 500;
+
 // The one-character text that carries a value on the wire; only its low byte counts.
 std::string dato(int valor);
 

@@ -10,7 +10,7 @@ volatile std::sig_atomic_t senalada = 0;
 
 void anotar(int)
 {
-    senalada = 1;
+    senalada = senalada + 1;
 }
 
 } // namespace

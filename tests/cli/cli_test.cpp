@@ -56,20 +56,23 @@ protected:
         return texto.str();
     }
     std::string imagen(const Chip& chip) { return escribir(std::string(chip.begin(), chip.end()), "imagen.bin"); }
-    Corrida correr(const std::vector<std::string>& argumentos, std::chrono::milliseconds interrupcion = {})
+    Corrida correr(const std::vector<std::string>& argumentos, std::chrono::milliseconds interrupcion = {},
+                   int senal = SIGINT)
     {
         std::this_thread::sleep_for(Emulador::cambiodesesion);
-        return correrorden(argumentos, carpeta, interrupcion);
+        return correrorden(argumentos, carpeta, interrupcion, senal);
     }
 
     std::string carpeta = std::filesystem::temp_directory_path() / "eeprog-cli-XXXXXX";
 };
 
 // The boards the orders are tried on: the emulator, and the simulated board that runs the
-// firmware, where the AVR tool chain and simavr were there to build them.
+// firmware, where the AVR tool chain and simavr were there to build them, with the chip's
+// usual write cycle and with the longest the data sheet allows, 10 ms.
 struct Tablero {
     const char* nombre;
     std::string programa;
+    std::vector<std::string> opciones = {};
 };
 
 void PrintTo(const Tablero& tablero, std::ostream* salida)
@@ -90,6 +93,7 @@ protected:
     {
         if (simulada())
             opciones.insert(opciones.end(), {"--firmware", EEPROG_FIRMWARE, "--faltas", carpeta + "/faltas"});
+        opciones.insert(opciones.end(), GetParam().opciones.begin(), GetParam().opciones.end());
         return std::make_unique<Emulador>(opciones, GetParam().programa);
     }
     // The simulated chip recorded no fault of the firmware on its bus.
@@ -108,7 +112,8 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(, OrdenPlaca,
-                         testing::Values(Tablero{"emulador", EEPROG_PLACA}, Tablero{"simulada", EEPROG_SIMPLACA}),
+                         testing::Values(Tablero{"emulador", EEPROG_PLACA}, Tablero{"simulada", EEPROG_SIMPLACA},
+                                         Tablero{"simulada10ms", EEPROG_SIMPLACA, {"--ciclo", "10000"}}),
                          [](const auto& info) { return std::string(info.param.nombre); });
 
 // Every shape of file leaves on the chip the bytes it gives, and nothing else; the rest of an
@@ -185,22 +190,70 @@ TEST_P(OrdenPlaca, ReadingGivesTheImageAndErasingLeavesABlankChip)
     terminar(*tablero);
 }
 
-// A chip bought with its write protection on ignores every write: the verify after it says
-// how to take the protection off, and once off the chip takes the file; put back on, it
-// ignores the next write.
-TEST_P(OrdenPlaca, AProtectedChipIgnoresWritesUntilUnprotected)
+// Many chips bought second-hand come with their write protection on: the board writes
+// through it, by the window's frames and by eeprog-cli's, and leaves it on. The orders that
+// change it are obeyed; a chip that keeps nothing even so has each byte named.
+TEST_P(OrdenPlaca, AProtectedChipIsProgrammedAndKeepsItsProtection)
 {
-    const auto tablero = placa({"--protegido", "--volcado", carpeta + "/volcado.bin"});
-    const std::string abc = escribir(":0300100041424327\n", "abc.hex");
-    const Corrida protegido = orden(*tablero, {"grabar", abc, "--verificar"});
-    EXPECT_EQ(protegido.estado, 1);
-    EXPECT_NE(protegido.errores.find("eeprog-cli desproteger"), std::string::npos) << protegido.errores;
-    EXPECT_EQ(orden(*tablero, {"desproteger"}).estado, 0);
-    EXPECT_EQ(orden(*tablero, {"grabar", abc, "--verificar"}).estado, 0);
-    EXPECT_EQ(orden(*tablero, {"proteger"}).estado, 0);
-    EXPECT_EQ(orden(*tablero, {"grabar", escribir(":01001000FFF0\n", "ff.hex")}).estado, 0);
+    const auto tablero = placa({"--protegido", "--volcado", carpeta + "/volcado.bin", "--estado", carpeta + "/estado"});
+    EXPECT_EQ(orden(*tablero, {"grabar", escribir(":0300100041424327\n", "abc.hex"), "--verificar"}).estado, 0);
+    EXPECT_EQ(orden(*tablero, {"grabar", "--como-ventana", escribir(":02002000444555\r\n", "de.hex")}).estado, 0);
     terminar(*tablero);
-    EXPECT_EQ(leer("volcado.bin").substr(0x10, 3), "ABC");
+    const std::string chip = leer("volcado.bin");
+    EXPECT_EQ(chip.substr(0x0F, 5) + chip.substr(0x1F, 4), "\xFF" "ABC\xFF\xFF" "DE\xFF");
+    EXPECT_EQ(leer("estado"), "protegido\n");
+    const struct {
+        const char* orden;
+        bool protegido;
+        const char* estado;
+    } cambios[] = {{"desproteger", true, "desprotegido\n"}, {"proteger", false, "protegido\n"}};
+    for (const auto& cambio : cambios) {
+        std::vector<std::string> opciones{"--estado", carpeta + "/estado"};
+        if (cambio.protegido)
+            opciones.push_back("--protegido");
+        const auto cambiada = placa(opciones);
+        EXPECT_EQ(orden(*cambiada, {cambio.orden}).estado, 0) << cambio.orden;
+        terminar(*cambiada);
+        EXPECT_EQ(leer("estado"), cambio.estado) << cambio.orden;
+    }
+    if (!simulada())
+        return;
+    const auto muerto = placa({"--chip-muerto"});
+    const Corrida corrida = orden(*muerto, {"grabar", carpeta + "/abc.hex"});
+    EXPECT_EQ(corrida.estado, 1);
+    for (const char* direccion : {"0010", "0011", "0012"})
+        EXPECT_NE(corrida.salida.find("Direccion = " + std::string(direccion) + "  Eco = FF"), std::string::npos)
+            << corrida.salida;
+    terminar(*muerto);
+}
+
+// A grabar cut short by Ctrl+C, which finishes the frame under way, or killed in the middle
+// of one, then at once a grabar of three bytes at 0x0010: they land there and nothing else
+// changes. The run cut short writes zeros from address 0 up on an erased chip.
+TEST_P(OrdenPlaca, ARunRightAfterAnInterruptedOneWritesOnlyItsOwnBytes)
+{
+    const std::string ceros = escribir(std::string(8192, '\0'), "ceros.bin");
+    const std::string abc = escribir(":0300100041424327\n", "abc.hex");
+    for (const int senal : {SIGINT, SIGKILL}) {
+        SCOPED_TRACE(senal == SIGINT ? "Ctrl+C" : "SIGKILL");
+        std::vector<std::string> opciones{"--volcado", carpeta + "/volcado.bin"};
+        if (!simulada())
+            opciones.push_back("--ritmo"); // slow enough to be cut in the middle
+        const auto tablero = placa(opciones);
+        const Corrida cortada = correr({"-q", "--puerto", tablero->ruta(), "grabar", ceros}, 700ms, senal);
+        EXPECT_EQ(cortada.estado, senal == SIGINT ? 130 : 128 + SIGKILL);
+        const Corrida corrida = orden(*tablero, {"grabar", abc});
+        EXPECT_EQ(corrida.estado, 0) << corrida.errores;
+        terminar(*tablero);
+        const std::string chip = leer("volcado.bin");
+        const std::size_t escritos = std::min(chip.find('\xFF'), chip.size());
+        std::string esperado = std::string(escritos, '\0') + std::string(8192 - escritos, '\xFF');
+        esperado.replace(0x10, 3, "ABC");
+        const auto distinto = std::mismatch(esperado.begin(), esperado.end(), chip.begin(), chip.end()).first;
+        EXPECT_EQ(distinto - esperado.begin(), 8192) << "the first byte that differs";
+        if (senal == SIGINT)
+            EXPECT_EQ(escritos % 16, 0u) << "a frame left half written";
+    }
 }
 
 // Ctrl+C in the middle of a read, or a board that stops answering: no file, and the port is

@@ -69,8 +69,9 @@ TEST(Lectura, ReadsTheWholeChipIntoVectorleidoAndIntelHexLinesWithTheirChecksums
     EXPECT_TRUE(std::equal(banco.placa.chip().begin(), banco.placa.chip().end(), leido.vectorleido.begin()));
 }
 
-// A sparse image goes out in runs of consecutive bytes cut at the 16-byte blocks; verifying
-// checks again, then offers each byte, and names the address of the one that differs.
+// A sparse image goes out in runs of consecutive bytes cut at the 16-byte blocks, each frame's
+// end told after its last byte (0 below); verifying checks again, then offers each byte, and
+// names the address of the one that differs.
 TEST(Tramas, AnImageGoesOutInRunsCutAtBlocksAndIsVerifiedAfterACheck)
 {
     Banco banco;
@@ -79,15 +80,16 @@ TEST(Tramas, AnImageGoesOutInRunsCutAtBlocksAndIsVerifiedAfterACheck)
         imagen.dado.set(direccion), imagen.bytes[direccion] = direccion & 0xFF;
     const auto tramas = tramasdeimagen(imagen);
     std::vector<int> hechos;
-    EXPECT_TRUE(escribirtramas(banco.enlace, tramas, [&](int n) { hechos.push_back(n); }).empty());
+    const Avance avance{[&](int n) { hechos.push_back(n); }, [&] { hechos.push_back(0); }};
+    EXPECT_TRUE(escribirtramas(banco.enlace, tramas, avance).empty());
     const auto marcos = [](char orden) {
         return marco(orden, 2, 0x0E, "\x0E\x0F") + marco(orden, 1, 0x10, "\x10") + marco(orden, 1, 0x12, "\x12") +
                marco(orden, 1, 0x1FFF, "\xFF");
     };
     EXPECT_EQ(banco.puerto.enviados(), marcos('w'));
-    EXPECT_EQ(hechos, (std::vector<int>{1, 2, 3, 4, 5}));
+    EXPECT_EQ(hechos, (std::vector<int>{1, 2, 0, 3, 0, 4, 0, 5, 0}));
     banco.placa.chip()[0x12] = 0x99;
-    const auto diferencias = comparartramas(banco.enlace, tramas, [](int) {});
+    const auto diferencias = comparartramas(banco.enlace, tramas, {[](int) {}});
     EXPECT_EQ(banco.puerto.enviados(), marcos('w') + "c" + marcos('r'));
     ASSERT_EQ(diferencias.size(), 1u);
     EXPECT_EQ(std::tuple(diferencias[0].direccion, diferencias[0].esperado, diferencias[0].obtenido),

@@ -22,9 +22,9 @@ struct Corrida {
 };
 
 // Runs eeprog-cli as a user would, its outputs caught in files of the given folder; with a
-// pause, the user presses Ctrl+C once it is over.
+// pause, the user presses Ctrl+C (or sends the signal given) once it is over.
 inline Corrida correrorden(const std::vector<std::string>& argumentos, const std::string& carpeta,
-                           std::chrono::milliseconds interrupcion = {})
+                           std::chrono::milliseconds interrupcion = {}, int senal = SIGINT)
 {
     std::vector<std::string> palabras{EEPROG_CLI};
     palabras.insert(palabras.end(), argumentos.begin(), argumentos.end());
@@ -46,7 +46,7 @@ inline Corrida correrorden(const std::vector<std::string>& argumentos, const std
         return corrida;
     if (interrupcion.count() > 0) {
         std::this_thread::sleep_for(interrupcion);
-        kill(hijo, SIGINT);
+        kill(hijo, senal);
     }
     if (waitpid(hijo, &estado, 0) == hijo)
         corrida.estado = WIFEXITED(estado) ? WEXITSTATUS(estado) : 128 + WTERMSIG(estado);
