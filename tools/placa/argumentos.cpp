@@ -22,6 +22,7 @@ const option opciones[] = {
     {"reacciones", required_argument, nullptr, reacciones},
     {"protegido", no_argument, nullptr, protegido},
     {"ayuda", no_argument, nullptr, ayuda},
+    {"help", no_argument, nullptr, ayuda},
     {nullptr, 0, nullptr, 0},
 };
 
@@ -98,7 +99,7 @@ std::string uso()
            "                       programa a cada respuesta, en microsegundos\n"
            "  --eco-erroneo N      el N-ésimo byte de datos escrito se oye mal\n"
            "                       (un bit cambiado): se guarda y se devuelve así\n"
-           "  --ayuda              muestra esta ayuda\n";
+           "  --ayuda, --help     muestra esta ayuda\n";
 }
 
 } // namespace eeprog

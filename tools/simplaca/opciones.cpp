@@ -19,6 +19,7 @@ const option claves[] = {
     {"protegido", no_argument, nullptr, protegido},
     {"ciclo", required_argument, nullptr, ciclo},
     {"ayuda", no_argument, nullptr, ayuda},
+    {"help", no_argument, nullptr, ayuda},
     {nullptr, 0, nullptr, 0},
 };
 
@@ -93,7 +94,7 @@ std::string usosimulada()
            "  --ciclo MICROSEGUNDOS  duración del ciclo de escritura del chip (1000)\n"
            "  --faltas ARCHIVO     al terminar, escribe una línea por cada falta en el\n"
            "                       bus del chip (vacío si no hubo ninguna)\n"
-           "  --ayuda              muestra esta ayuda\n";
+           "  --ayuda, --help     muestra esta ayuda\n";
 }
 
 } // namespace eeprog
