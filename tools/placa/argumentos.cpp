@@ -99,7 +99,7 @@ std::string uso()
            "                       programa a cada respuesta, en microsegundos\n"
            "  --eco-erroneo N      el N-ésimo byte de datos escrito se oye mal\n"
            "                       (un bit cambiado): se guarda y se devuelve así\n"
-           "  --ayuda, --help     muestra esta ayuda\n";
+           "  --ayuda, --help      muestra esta ayuda\n";
 }
 
 } // namespace eeprog

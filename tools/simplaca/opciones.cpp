@@ -94,7 +94,7 @@ std::string usosimulada()
            "  --ciclo MICROSEGUNDOS  duración del ciclo de escritura del chip (1000)\n"
            "  --faltas ARCHIVO     al terminar, escribe una línea por cada falta en el\n"
            "                       bus del chip (vacío si no hubo ninguna)\n"
-           "  --ayuda, --help     muestra esta ayuda\n";
+           "  --ayuda, --help      muestra esta ayuda\n";
 }
 
 } // namespace eeprog
