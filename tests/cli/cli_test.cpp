@@ -86,10 +86,11 @@ protected:
         OrdenCli::SetUp();
     }
     bool simulada() const { return GetParam().programa != EEPROG_PLACA; }
+    // The simulated board is given no --firmware: it takes the one the build put beside it.
     std::unique_ptr<Emulador> placa(std::vector<std::string> opciones)
     {
         if (simulada())
-            opciones.insert(opciones.end(), {"--firmware", EEPROG_FIRMWARE, "--faltas", carpeta + "/faltas"});
+            opciones.insert(opciones.end(), {"--faltas", carpeta + "/faltas"});
         return std::make_unique<Emulador>(opciones, GetParam().programa);
     }
     // The simulated chip recorded no fault of the firmware on its bus.

@@ -120,9 +120,8 @@ TEST(EeprogPlaca, ServesSessionsDumpsTheChipOnExitAndRefusesBadOptions)
 // standard output, ending well. The simulated board's too, where it is built.
 TEST(EeprogPlaca, HelpGivesTheUsageOnStandardOutput)
 {
-    const std::pair<std::string, std::string> programas[] = {
-        {EEPROG_PLACA, "Uso: eeprog-placa [OPCIONES]"},
-        {EEPROG_SIMPLACA, "Uso: eeprog-simplaca --firmware ELF [OPCIONES]"}};
+    const std::pair<std::string, std::string> programas[] = {{EEPROG_PLACA, "Uso: eeprog-placa [OPCIONES]"},
+                                                             {EEPROG_SIMPLACA, "Uso: eeprog-simplaca [OPCIONES]"}};
     for (const auto& [programa, uso] : programas) {
         if (programa.empty())
             continue;
