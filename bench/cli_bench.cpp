@@ -70,7 +70,7 @@ void simulada(benchmark::State& estado, const std::vector<std::string>& palabras
     const std::string carpeta = std::filesystem::temp_directory_path();
     escribirimagen(carpeta);
     for (auto _ : estado) {
-        prueba::Emulador placa({"--firmware", EEPROG_FIRMWARE}, EEPROG_SIMPLACA);
+        prueba::Emulador placa({}, EEPROG_SIMPLACA);
         std::vector<std::string> completa{"-q", "--puerto", placa.ruta()};
         completa.insert(completa.end(), palabras.begin(), palabras.end());
         int salida = -1;

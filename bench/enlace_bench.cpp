@@ -5,7 +5,7 @@
 #include "emulador.h"
 #include "link/conexion.h"
 #include "link/enlace.h"
-#include "shell/qt/puertoserie.h"
+#include "link/qt/puertoserie.h"
 
 #include <QCoreApplication>
 

@@ -9,7 +9,7 @@
 #include "emulador.h"
 #include "pantallafalsa.h"
 #include "ritmo.h"
-#include "shell/qt/puertoserie.h"
+#include "link/qt/puertoserie.h"
 #include "shell/qt/ventanaform1.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,7 @@
 # Checks that everything a desktop user needs is where the program, the desktop and man look
 # for it: installed with cmake --install into a scratch prefix (PARTE=instalacion), or as the
-# Debian package unpacks (PARTE=paquete). LIBDIR is the build's own.
+# Debian package unpacks (PARTE=paquete). LIBDIR is the build's own; SIMULADA and FIRMWARE say
+# whether the simulated board and the firmware were built, and so are installed.
 cmake_minimum_required(VERSION 3.25)
 
 function(comprobar raiz)
@@ -24,6 +25,12 @@ function(comprobar raiz)
     ${raiz}/share/icons/hicolor/48x48/apps/eeprog.png
     ${raiz}/share/icons/hicolor/scalable/apps/eeprog.svg
     ${manuales})
+  if(SIMULADA)
+    list(APPEND esperados ${raiz}/bin/eeprog-simplaca)
+  endif()
+  if(FIRMWARE)
+    list(APPEND esperados ${programa}/circuito/eeprog-placa.elf)
+  endif()
   foreach(archivo IN LISTS esperados)
     if(NOT EXISTS ${archivo})
       message(FATAL_ERROR "not installed: ${archivo}")
@@ -47,6 +54,15 @@ function(comprobar raiz)
   file(REAL_PATH ${programa}/eeprog esperado)
   if(NOT real STREQUAL esperado)
     message(FATAL_ERROR "${enlace} leads to ${real}, not ${esperado}")
+  endif()
+
+  # Installed elsewhere than the prefix it was configured for, the simulated board still finds
+  # its firmware from its own place, and starts: its first line is its terminal.
+  if(SIMULADA AND FIRMWARE)
+    execute_process(COMMAND ${raiz}/bin/eeprog-simplaca TIMEOUT 3 OUTPUT_VARIABLE salida ERROR_VARIABLE errores)
+    if(NOT salida MATCHES "^/dev/")
+      message(FATAL_ERROR "the installed eeprog-simplaca does not start: ${errores}")
+    endif()
   endif()
 
   file(STRINGS ${raiz}/share/applications/eeprog.desktop entrada)

@@ -2,7 +2,7 @@
 
 #include "cli/interrupcion.h"
 #include "cli/programador.h"
-#include "shell/qt/puertoserie.h"
+#include "link/qt/puertoserie.h"
 
 #include <QCoreApplication>
 

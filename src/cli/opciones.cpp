@@ -36,7 +36,7 @@ Opciones:
   --como-ventana        con grabar y verificar: lee el archivo como la ventana
   -q, --silencioso      sin barra de progreso ni resumen; los errores se dicen
   --version             muestra la versión
-  -h, --ayuda           muestra esta ayuda
+  -h, --ayuda, --help   muestra esta ayuda
 
 Estado de salida:
   0    hecho, y el chip está como se pidió
@@ -49,7 +49,7 @@ Estado de salida:
 
 enum Clave { puerto = 1, formato, verificar, comoventana, version };
 
-const std::array<option, 9> largas{{
+const std::array<option, 10> largas{{
     {"puerto", required_argument, nullptr, puerto},
     {"salida", required_argument, nullptr, 'o'},
     {"formato", required_argument, nullptr, formato},
@@ -58,6 +58,7 @@ const std::array<option, 9> largas{{
     {"silencioso", no_argument, nullptr, 'q'},
     {"version", no_argument, nullptr, version},
     {"ayuda", no_argument, nullptr, 'h'},
+    {"help", no_argument, nullptr, 'h'},
     {nullptr, 0, nullptr, 0},
 }};
 

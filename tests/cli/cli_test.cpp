@@ -89,10 +89,11 @@ protected:
         OrdenCli::SetUp();
     }
     bool simulada() const { return GetParam().programa != EEPROG_PLACA; }
+    // The simulated board is given no --firmware: it takes the one the build put beside it.
     std::unique_ptr<Emulador> placa(std::vector<std::string> opciones)
     {
         if (simulada())
-            opciones.insert(opciones.end(), {"--firmware", EEPROG_FIRMWARE, "--faltas", carpeta + "/faltas"});
+            opciones.insert(opciones.end(), {"--faltas", carpeta + "/faltas"});
         opciones.insert(opciones.end(), GetParam().opciones.begin(), GetParam().opciones.end());
         return std::make_unique<Emulador>(opciones, GetParam().programa);
     }
@@ -270,6 +271,15 @@ TEST_F(OrdenCli, AnInterruptedOrBrokenReadLeavesNoFileAndClosesThePort)
     EXPECT_EQ(corrida.estado, 4);
     EXPECT_EQ(corrida.errores, "eeprog-cli: " + callada.ruta() + ": la placa dejó de responder\n");
     EXPECT_FALSE(std::filesystem::exists(carpeta + "/chip.hex"));
+}
+
+// --help, the name a command-line user tries first, gives the usage as --ayuda does.
+TEST_F(OrdenCli, HelpGivesTheUsageOnStandardOutput)
+{
+    const Corrida corrida = correr({"--help"});
+    EXPECT_EQ(corrida.estado, 0);
+    EXPECT_EQ(corrida.salida.rfind("Uso: eeprog-cli [OPCIONES] ORDEN [ARCHIVO]\n", 0), 0u) << corrida.salida;
+    EXPECT_EQ(corrida.errores, "");
 }
 
 // What goes wrong before the board is reached sends nothing and writes nothing, and says so

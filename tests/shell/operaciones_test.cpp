@@ -1,6 +1,6 @@
 #include "formprueba.h"
 #include "ordencli.h"
-#include "shell/qt/puertoserie.h"
+#include "link/qt/puertoserie.h"
 
 #include <thread>
 

@@ -140,4 +140,19 @@ TEST(EeprogPlaca, ServesSessionsDumpsTheChipOnExitAndRefusesBadOptions)
     EXPECT_EQ(Emulador({"--volcado", "/nohay/volcado.bin"}).terminar(), 1);
 }
 
+// --help, the name a command-line user tries first, gives the usage as --ayuda does: on
+// standard output, ending well. The simulated board's too, where it is built.
+TEST(EeprogPlaca, HelpGivesTheUsageOnStandardOutput)
+{
+    const std::pair<std::string, std::string> programas[] = {{EEPROG_PLACA, "Uso: eeprog-placa [OPCIONES]"},
+                                                             {EEPROG_SIMPLACA, "Uso: eeprog-simplaca [OPCIONES]"}};
+    for (const auto& [programa, uso] : programas) {
+        if (programa.empty())
+            continue;
+        Emulador ayuda({"--help"}, programa);
+        EXPECT_EQ(ayuda.ruta(), uso);
+        EXPECT_EQ(ayuda.fin(), 0);
+    }
+}
+
 } // namespace

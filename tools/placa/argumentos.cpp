@@ -23,6 +23,7 @@ const option opciones[] = {
     {"protegido", no_argument, nullptr, protegido},
     {"estado", required_argument, nullptr, estado},
     {"ayuda", no_argument, nullptr, ayuda},
+    {"help", no_argument, nullptr, ayuda},
     {nullptr, 0, nullptr, 0},
 };
 
@@ -104,7 +105,7 @@ std::string uso()
            "                       programa a cada respuesta, en microsegundos\n"
            "  --eco-erroneo N      el N-ésimo byte de datos escrito se oye mal\n"
            "                       (un bit cambiado): se guarda y se devuelve así\n"
-           "  --ayuda              muestra esta ayuda\n";
+           "  --ayuda, --help      muestra esta ayuda\n";
 }
 
 } // namespace eeprog

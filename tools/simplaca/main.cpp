@@ -4,6 +4,7 @@
 #include "chipmodelo.h"
 #include "enlacesimbolico.h"
 #include "imagen.h"
+#include "lugarfirmware.h"
 #include "opciones.h"
 #include "orden.h"
 #include "plataforma/senales.h"
@@ -106,6 +107,9 @@ int main(int argc, char* argv[])
         std::cout << eeprog::usosimulada();
         return 0;
     }
+    const std::string firmware = opciones->firmware.empty() ? eeprog::buscarfirmware() : opciones->firmware;
+    if (firmware.empty())
+        return 2;
     eeprog::ChipModelo::Memoria contenido;
     contenido.fill(0xFF);
     if (!opciones->imagen.empty() && !eeprog::cargarimagen(opciones->imagen, contenido)) {
@@ -114,7 +118,7 @@ int main(int argc, char* argv[])
     }
     eeprog::ChipModelo chip(contenido, opciones->ciclo * 1000, opciones->protegido);
     std::string error;
-    auto placa = eeprog::PlacaSimulada::crear(opciones->firmware, chip, error);
+    auto placa = eeprog::PlacaSimulada::crear(firmware, chip, error);
     if (!placa) {
         std::cerr << "eeprog-simplaca: " << error << '\n';
         return 1;

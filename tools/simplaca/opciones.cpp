@@ -19,6 +19,7 @@ const option claves[] = {
     {"protegido", no_argument, nullptr, protegido},
     {"ciclo", required_argument, nullptr, ciclo},
     {"ayuda", no_argument, nullptr, ayuda},
+    {"help", no_argument, nullptr, ayuda},
     {nullptr, 0, nullptr, 0},
 };
 
@@ -69,22 +70,20 @@ std::optional<Opciones> leeropciones(int argc, char* argv[])
     const auto tomarla = [&](int clave, const char* valor) { return tomar(clave, valor, opciones); };
     if (!recorreropciones("eeprog-simplaca", argc, argv, claves, tomarla))
         return std::nullopt;
-    if (opciones.firmware.empty() && !opciones.ayuda) {
-        std::cerr << "eeprog-simplaca: falta --firmware con el ELF de la placa\n";
-        return std::nullopt;
-    }
     return opciones;
 }
 
 std::string usosimulada()
 {
-    return "Uso: eeprog-simplaca --firmware ELF [OPCIONES]\n"
+    return "Uso: eeprog-simplaca [OPCIONES]\n"
            "Simula la placa programadora: su ATmega16 a 7,3728 MHz corre el firmware\n"
-           "ELF y maneja un AT28C64B simulado; su puerto serie es un pseudoterminal.\n"
-           "La primera línea de la salida es la ruta del puerto. La placa sigue activa\n"
-           "hasta Ctrl+C.\n"
+           "de la placa y maneja un AT28C64B simulado; su puerto serie es un\n"
+           "pseudoterminal. La primera línea de la salida es la ruta del puerto. La\n"
+           "placa sigue activa hasta Ctrl+C.\n"
            "\n"
-           "  --firmware ELF       el firmware de la placa\n"
+           "  --firmware ELF       el firmware de la placa; sin esta opción, el\n"
+           "                       eeprog-placa.elf que dejó junto al programa su\n"
+           "                       construcción o su instalación\n"
            "  --enlace RUTA        crea también el enlace RUTA hacia el puerto\n"
            "  --imagen ARCHIVO     contenido inicial del chip (binario, desde 0x0000);\n"
            "                       sin él, el chip está borrado (todo FF)\n"
@@ -93,7 +92,7 @@ std::string usosimulada()
            "  --ciclo MICROSEGUNDOS  duración del ciclo de escritura del chip (1000)\n"
            "  --faltas ARCHIVO     al terminar, escribe una línea por cada falta en el\n"
            "                       bus del chip (vacío si no hubo ninguna)\n"
-           "  --ayuda              muestra esta ayuda\n";
+           "  --ayuda, --help      muestra esta ayuda\n";
 }
 
 } // namespace eeprog

@@ -8,7 +8,7 @@ namespace eeprog {
 
 // What the simulated board was asked for on its command line.
 struct Opciones {
-    std::string firmware;
+    std::string firmware; // empty: the one found beside the program
     std::string enlace;
     std::string imagen;
     std::string volcado;

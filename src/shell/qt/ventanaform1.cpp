@@ -7,7 +7,7 @@
 #include "shell/qt/cajamensajes.h"
 #include "shell/qt/dialogocomun.h"
 #include "shell/qt/letras.h"
-#include "shell/qt/puertoserie.h"
+#include "link/qt/puertoserie.h"
 #include "shell/qt/rejillas.h"
 #include "shell/menuskin.h"
 #include "shell/qt/twips.h"

@@ -1,4 +1,4 @@
-#include "shell/qt/puertoserie.h"
+#include "link/qt/puertoserie.h"
 
 #include <chrono>
 #include <cstdlib>
