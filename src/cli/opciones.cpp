@@ -24,8 +24,8 @@ Lee, graba y verifica el AT28C64B en la placa de eeprog, desde la línea de órd
   verificar ARCHIVO   compara el chip con el archivo y da cada diferencia
   borrar              escribe FF en todo el chip
   vacio               dice si todo el chip está en FF
-  desproteger         quita la protección de escritura del chip (si no graba)
-  proteger            pone la protección de escritura del chip
+  desproteger         quita la protección de escritura del chip
+  proteger            la pone (la placa graba a través de ella)
 
 Opciones:
   --puerto DISPOSITIVO  el puerto de la placa (si no, EEPROG_COM1 o /dev/ttyS0)
