@@ -1,4 +1,5 @@
 #include "chipmodelo.h"
+#include "fusibles.h"
 
 #include <gtest/gtest.h>
 
@@ -135,6 +136,13 @@ TEST(ChipModelo, BrokenRulesAreFaults)
          [](ChipModelo& chip) {
              chip.avanzar(cargar(chip, 4'000'000, 0x0123, 0x5A) + 2'000'000);
              return chip.memoria()[0x0123] == 0x77;
+         }},
+        {"FuseWithBrownOutDetectionOff", 1,
+         [](ChipModelo& chip) {
+             if (const auto falta = eeprog::revisarfusible(0xFF))
+                 chip.anotar(0, *falta);
+             // 16K cycles of 7.3728 MHz and 65 ms
+             return eeprog::arranque(0xFF, 7'372'800) == 67'222'222;
          }},
     };
     for (const auto& fila : filas) {

@@ -1,5 +1,7 @@
 #include "placasimulada.h"
 
+#include "fusibles.h"
+
 #include <avr_ioport.h>
 #include <avr_uart.h>
 #include <sim_avr.h>
@@ -56,6 +58,21 @@ bool esavr(const std::string& ruta)
     return std::equal(std::begin(magia), std::end(magia), cabecera) && cabecera[18] == maquinaavr && cabecera[19] == 0;
 }
 
+// simavr's loader copies the ELF's .fuse section into the core's fuses; an ELF without one
+// leaves the part as it left the factory. Their faults are the board's, noted at power-up.
+std::int64_t encender(const elf_firmware_t& elf, const avr_t& avr, ChipModelo& chip)
+{
+    if (elf.fusesize == 0) {
+        chip.anotar(0, "el firmware no trae fusibles (sección .fuse): el ATmega16 queda con los de fábrica, "
+                       "sin cristal ni detección de caída de tensión; el fusible bajo debe ser 0x3F");
+        return arranque(fusiblebajodefabrica, PlacaSimulada::frecuencia);
+    }
+    const std::uint8_t bajo = avr.fuse[AVR_FUSE_LOW];
+    if (const auto falta = revisarfusible(bajo))
+        chip.anotar(0, *falta);
+    return arranque(bajo, PlacaSimulada::frecuencia);
+}
+
 } // namespace
 
 std::unique_ptr<PlacaSimulada> PlacaSimulada::crear(const std::string& firmware, ChipModelo& chip, std::string& error)
@@ -84,7 +101,7 @@ std::unique_ptr<PlacaSimulada> PlacaSimulada::crear(const std::string& firmware,
     elf.frequency = frecuencia;
     avr_load_firmware(avr, &elf);
     avr->frequency = frecuencia;
-    std::unique_ptr<PlacaSimulada> placa(new PlacaSimulada(avr, chip, 0));
+    std::unique_ptr<PlacaSimulada> placa(new PlacaSimulada(avr, chip, encender(elf, *avr, chip)));
     placa->conectar();
     return placa;
 }

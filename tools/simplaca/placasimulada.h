@@ -15,7 +15,7 @@ namespace eeprog {
 // The board's ATmega16 running its firmware in simavr, wired to the chip as the board is:
 // data on port A, address on ports C and B, /CE, /OE and /WE on PD2-PD4, and its UART
 // taking bytes from the program and giving back the firmware's replies. Time is the chip's,
-// from power-up; the core starts encendido later.
+// from power-up; the core starts when its fuses' start-up delay is over.
 class PlacaSimulada {
 public:
     static constexpr std::uint32_t frecuencia = 7'372'800;
