@@ -53,7 +53,8 @@ TEST(ChipModelo, ALoadDuringTheCycleIsAFaultAndIsLost)
 // The command bytes lie outside the data's page, and are no fault.
 TEST(ChipModelo, SoftwareDataProtection)
 {
-    const Carga aa{0x1555, 0xAA}, cinco{0x0AAA, 0x55}, a0{0x1555, 0xA0}, dato{0x0123, 0x5A};
+    const Carga aa{0x1555, 0xAA}, cinco{0x0AAA, 0x55}, a0{0x1555, 0xA0}, ochenta{0x1555, 0x80}, veinte{0x1555, 0x20};
+    const Carga dato{0x0123, 0x5A};
     const struct {
         const char* nombre;
         bool protegido, muerto, protegidodespues;
@@ -63,8 +64,7 @@ TEST(ChipModelo, SoftwareDataProtection)
         {"PlainWriteIgnoredWhenProtected", true, false, true, {dato}, 0x00},
         {"EnabledWriteGoesThrough", true, false, true, {aa, cinco, a0, dato}, 0x5A},
         {"EnableSequenceTurnsItOn", false, false, true, {aa, cinco, a0, dato}, 0x5A},
-        {"DisableSequenceTurnsItOff", true, false, false, {aa, cinco, {0x1555, 0x80}, aa, cinco, {0x1555, 0x20}, dato},
-         0x5A},
+        {"DisableSequenceTurnsItOff", true, false, false, {aa, cinco, ochenta, aa, cinco, veinte, dato}, 0x5A},
         {"DeadChipKeepsNothing", false, true, true, {aa, cinco, a0, dato}, 0x00},
     };
     for (const auto& fila : filas) {

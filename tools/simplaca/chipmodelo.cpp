@@ -13,10 +13,10 @@ constexpr std::int64_t accesodireccion = 150;
 constexpr std::int64_t accesoce = 150;
 constexpr std::int64_t accesooe = 70;
 constexpr std::int64_t pulsominimo = 100;
-constexpr std::int64_t preparaciondato = 50;     // tDS
-constexpr std::int64_t ventanacarga = 150'000;   // tBLC
-constexpr std::int64_t inhibicion = 5'000'000;   // writes refused after power-up
-constexpr std::uint16_t pagina = 0x1FC0;         // A6-A12 choose the 64-byte page
+constexpr std::int64_t preparaciondato = 50;   // tDS
+constexpr std::int64_t ventanacarga = 150'000; // tBLC
+constexpr std::int64_t inhibicion = 5'000'000; // writes refused after power-up
+constexpr std::uint16_t pagina = 0x1FC0;       // A6-A12 choose the 64-byte page
 
 struct Paso {
     std::uint16_t direccion;
@@ -124,8 +124,8 @@ std::uint8_t ChipModelo::muestrear(std::int64_t cuando)
         return valor;
     const std::string donde = "lectura del bus de datos en " + hexadecimal(patas.direccion & (tamano - 1), 4);
     if (propio)
-        anotar(cuando, donde + " " + std::to_string(valida - cuando) + " ns antes de que el chip dé el dato; los bits " +
-                           hexadecimal(ajenos, 2) + " aún no valen");
+        anotar(cuando, donde + " " + std::to_string(valida - cuando) +
+                           " ns antes de que el chip dé el dato; los bits " + hexadecimal(ajenos, 2) + " aún no valen");
     else
         anotar(cuando, donde + " con los bits " + hexadecimal(ajenos, 2) + " sin conducir por nadie; flotan");
     return static_cast<std::uint8_t>(valor | flotar(ajenos, enbus));

@@ -20,8 +20,8 @@ struct Espera {
 // simulated core always runs from the board's crystal, so this table is read whatever
 // oscillator the fuses ask for.
 constexpr Espera esperas[8] = {
-    {258, 4'100'000}, {258, 65'000'000}, {1024, 0},          {1024, 4'100'000},
-    {1024, 65'000'000}, {16384, 0},      {16384, 4'100'000}, {16384, 65'000'000},
+    {258, 4'100'000},   {258, 65'000'000}, {1024, 0},          {1024, 4'100'000},
+    {1024, 65'000'000}, {16384, 0},        {16384, 4'100'000}, {16384, 65'000'000},
 };
 
 std::string hexadecimal(std::uint8_t valor)

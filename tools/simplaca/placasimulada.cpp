@@ -23,7 +23,7 @@ constexpr std::uint8_t pince = 0x04; // PD2
 constexpr std::uint8_t pinoe = 0x08; // PD3
 constexpr std::uint8_t pinwe = 0x10; // PD4
 constexpr std::uint8_t altas = 0x1F; // A8-A12 on PB0-PB4
-constexpr std::uint16_t pina = 0x39;  // in the data space: I/O address 0x19
+constexpr std::uint16_t pina = 0x39; // in the data space: I/O address 0x19
 constexpr char uart = '0';
 
 // simavr's own chatter would mix with the terminal's path on standard output; only its

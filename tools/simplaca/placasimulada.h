@@ -57,7 +57,8 @@ private:
 
     avr_t* avr;
     ChipModelo& chip;
-    std::int64_t encendido; // the chip's time when the core starts
+    // The chip's time when the core starts.
+    std::int64_t encendido;
     std::uint8_t (*leerpina)(avr_t*, std::uint16_t, void*) = nullptr; // the port's own
     void* puertoa = nullptr;
     avr_irq_t* entrada = nullptr;
