@@ -201,7 +201,6 @@ void PlacaSimulada::cambiopatas()
 std::uint8_t PlacaSimulada::leerbus(std::uint8_t puerto)
 {
     const std::int64_t pines = nanosegundos(avr->cycle > 0 ? avr->cycle - 1 : 0);
-    chip.avanzar(ahora());
     return static_cast<std::uint8_t>((puerto & ddra) | (chip.muestrear(pines) & ~ddra));
 }
 
@@ -233,7 +232,8 @@ std::uint64_t PlacaSimulada::ciclos(std::int64_t cuando) const
 std::uint8_t PlacaSimulada::alleer(avr_t* avr, std::uint16_t direccion, void* placa)
 {
     auto* esta = static_cast<PlacaSimulada*>(placa);
-    return esta->leerbus(esta->leerpina(avr, direccion, esta->puertoa));
+    const std::uint8_t puerto = esta->leerpina ? esta->leerpina(avr, direccion, esta->puertoa) : avr->data[direccion];
+    return esta->leerbus(puerto);
 }
 
 void PlacaSimulada::alpuerto(avr_irq_t*, std::uint32_t, void* placa)
