@@ -1,18 +1,25 @@
 #include "chipmodelo.h"
+#include "fusibles.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace {
 
 using eeprog::ChipModelo;
 using Carga = std::pair<std::uint16_t, std::uint8_t>;
 
+// The data sheet's 5 ms after power-up, when the chip first takes writes.
+constexpr std::int64_t despierto = 5'000'000;
+
 // A byte load as the firmware makes it, times in ns: /CE low, /WE low for 400 ns, both high.
-std::int64_t cargar(ChipModelo& chip, std::int64_t t, std::uint16_t direccion, std::uint8_t dato)
+std::int64_t cargar(ChipModelo& chip, std::int64_t t, std::uint16_t direccion, std::uint8_t dato,
+                    std::uint8_t conducidos = 0xFF)
 {
-    chip.cambiar({.ce = false, .direccion = direccion, .datos = dato, .conducidos = 0xFF}, t);
-    chip.cambiar({.ce = false, .we = false, .direccion = direccion, .datos = dato, .conducidos = 0xFF}, t + 100);
-    chip.cambiar({.ce = false, .direccion = direccion, .datos = dato, .conducidos = 0xFF}, t + 500);
+    chip.cambiar({.ce = false, .direccion = direccion, .datos = dato, .conducidos = conducidos}, t);
+    chip.cambiar({.ce = false, .we = false, .direccion = direccion, .datos = dato, .conducidos = conducidos}, t + 100);
+    chip.cambiar({.ce = false, .direccion = direccion, .datos = dato, .conducidos = conducidos}, t + 500);
     chip.cambiar({.direccion = direccion}, t + 600);
     return t + 1000;
 }
@@ -28,45 +35,121 @@ std::optional<std::uint8_t> leer(ChipModelo& chip, std::int64_t t, std::uint16_t
 TEST(ChipModelo, DataPollingShowsIO7InvertedUntilTheCycleEnds)
 {
     ChipModelo chip({}, 1'000'000, false);
-    EXPECT_EQ(*leer(chip, cargar(chip, 0, 0x0123, 0x5A), 0x0123) & 0x80, 0x80);
-    EXPECT_EQ(*leer(chip, 1'140'000, 0x0200) & 0x80, 0x80);
-    EXPECT_EQ(leer(chip, 1'160'000, 0x0123), 0x5A);
+    EXPECT_EQ(*leer(chip, cargar(chip, despierto, 0x0123, 0x5A), 0x0123) & 0x80, 0x80);
+    EXPECT_EQ(*leer(chip, despierto + 1'140'000, 0x0200) & 0x80, 0x80);
+    EXPECT_EQ(leer(chip, despierto + 1'160'000, 0x0123), 0x5A);
 }
 
 TEST(ChipModelo, ALoadDuringTheCycleIsAFaultAndIsLost)
 {
     ChipModelo chip({}, 1'000'000, false);
-    cargar(chip, cargar(chip, 0, 0x0040, 0x11) + 500'000, 0x0041, 0x22);
-    chip.avanzar(2'000'000);
+    cargar(chip, cargar(chip, despierto, 0x0040, 0x11) + 500'000, 0x0041, 0x22);
+    chip.avanzar(despierto + 2'000'000);
     EXPECT_EQ(chip.faltas().size(), 1u);
     EXPECT_EQ(chip.memoria()[0x0041], 0x00);
 }
 
 // The loads of a row make one page load; the byte at 0x0123 tells whether the data went in.
+// The command bytes lie outside the data's page, and are no fault.
 TEST(ChipModelo, SoftwareDataProtection)
 {
-    const Carga aa{0x1555, 0xAA}, cinco{0x0AAA, 0x55}, a0{0x1555, 0xA0}, dato{0x0123, 0x5A};
+    const Carga aa{0x1555, 0xAA}, cinco{0x0AAA, 0x55}, a0{0x1555, 0xA0}, ochenta{0x1555, 0x80}, veinte{0x1555, 0x20};
+    const Carga dato{0x0123, 0x5A};
     const struct {
         const char* nombre;
-        bool protegido, protegidodespues;
+        bool protegido, muerto, protegidodespues;
         std::vector<Carga> cargas;
         std::uint8_t esperado;
     } filas[]{
-        {"PlainWriteIgnoredWhenProtected", true, true, {dato}, 0x00},
-        {"EnabledWriteGoesThrough", true, true, {aa, cinco, a0, dato}, 0x5A},
-        {"EnableSequenceTurnsItOn", false, true, {aa, cinco, a0, dato}, 0x5A},
-        {"DisableSequenceTurnsItOff", true, false, {aa, cinco, {0x1555, 0x80}, aa, cinco, {0x1555, 0x20}, dato}, 0x5A},
+        {"PlainWriteIgnoredWhenProtected", true, false, true, {dato}, 0x00},
+        {"EnabledWriteGoesThrough", true, false, true, {aa, cinco, a0, dato}, 0x5A},
+        {"EnableSequenceTurnsItOn", false, false, true, {aa, cinco, a0, dato}, 0x5A},
+        {"DisableSequenceTurnsItOff", true, false, false, {aa, cinco, ochenta, aa, cinco, veinte, dato}, 0x5A},
+        {"DeadChipKeepsNothing", false, true, true, {aa, cinco, a0, dato}, 0x00},
     };
     for (const auto& fila : filas) {
         SCOPED_TRACE(fila.nombre);
-        ChipModelo chip({}, 1'000'000, fila.protegido);
-        std::int64_t t = 0;
+        ChipModelo chip({}, 1'000'000, fila.protegido, fila.muerto);
+        std::int64_t t = despierto;
         for (const auto& [direccion, valor] : fila.cargas)
             t = cargar(chip, t, direccion, valor);
         chip.avanzar(t + 2'000'000);
         EXPECT_EQ(chip.memoria()[0x0123], fila.esperado);
         EXPECT_EQ(chip.memoria()[0x1555], 0x00); // the sequences are commands, never data
         EXPECT_EQ(chip.protegido(), fila.protegidodespues);
+        EXPECT_TRUE(chip.faltas().empty()) << chip.faltas().front();
+    }
+}
+
+// Each row breaks one of the data sheet's rules, or keeps one, on a chip whose cells hold
+// 0x77; its steps say whether the chip shows what a real one would.
+TEST(ChipModelo, BrokenRulesAreFaults)
+{
+    ChipModelo::Memoria setentaysiete;
+    setentaysiete.fill(0x77);
+    const struct {
+        const char* nombre;
+        std::size_t faltas;
+        std::function<bool(ChipModelo&)> pasos;
+    } filas[]{
+        {"LatchWithDataLinesUndriven", 1,
+         [](ChipModelo& chip) {
+             chip.avanzar(cargar(chip, despierto, 0x0123, 0x5A, 0x0F) + 2'000'000);
+             return (chip.memoria()[0x0123] & 0x0F) == 0x0A && chip.memoria()[0x0123] != 0x5A;
+         }},
+        {"DataChanged40nsBeforeTheLatch", 1,
+         [](ChipModelo& chip) {
+             chip.cambiar({.ce = false, .direccion = 0x0123, .datos = 0x5A, .conducidos = 0xFF}, despierto);
+             chip.cambiar({.ce = false, .we = false, .direccion = 0x0123, .datos = 0x5A, .conducidos = 0xFF},
+                          despierto + 100);
+             chip.cambiar({.ce = false, .we = false, .direccion = 0x0123, .datos = 0x5B, .conducidos = 0xFF},
+                          despierto + 460);
+             chip.cambiar({.direccion = 0x0123, .datos = 0x5B, .conducidos = 0xFF}, despierto + 500);
+             chip.avanzar(despierto + 2'000'000);
+             return true;
+         }},
+        {"ReadsWithTheOutputsOffFloat", 2,
+         [](ChipModelo& chip) {
+             leer(chip, despierto, 0x0123);
+             const bool dato = chip.muestrear(despierto + 200) == 0x77;
+             chip.cambiar({.direccion = 0x0123}, despierto + 300);
+             const std::uint8_t una = chip.muestrear(despierto + 400), otra = chip.muestrear(despierto + 500);
+             return dato && una != 0x77 && otra != 0x77 && una != otra;
+         }},
+        {"ReadBefore70nsAfterOE", 1,
+         [](ChipModelo& chip) {
+             chip.cambiar({.ce = false, .direccion = 0x0123}, despierto);
+             chip.cambiar({.ce = false, .oe = false, .direccion = 0x0123}, despierto + 200);
+             return chip.muestrear(despierto + 260) != 0x77;
+         }},
+        {"LoadLeavesItsPage", 1,
+         [](ChipModelo& chip) {
+             chip.avanzar(cargar(chip, cargar(chip, despierto, 0x0041, 0x11), 0x0080, 0x22) + 2'000'000);
+             return chip.memoria()[0x0041] == 0x11 && chip.memoria()[0x0080] == 0x77;
+         }},
+        {"PageLoadWritesOnlyTheBytesLoaded", 0,
+         [](ChipModelo& chip) {
+             chip.avanzar(cargar(chip, cargar(chip, despierto, 0x0041, 0x11), 0x0043, 0x33) + 2'000'000);
+             return chip.memoria()[0x0041] == 0x11 && chip.memoria()[0x0042] == 0x77 && chip.memoria()[0x0043] == 0x33;
+         }},
+        {"WriteWithin5msOfPowerUp", 1,
+         [](ChipModelo& chip) {
+             chip.avanzar(cargar(chip, 4'000'000, 0x0123, 0x5A) + 2'000'000);
+             return chip.memoria()[0x0123] == 0x77;
+         }},
+        {"FuseWithBrownOutDetectionOff", 1,
+         [](ChipModelo& chip) {
+             if (const auto falta = eeprog::revisarfusible(0xFF))
+                 chip.anotar(0, *falta);
+             // 16K cycles of 7.3728 MHz and 65 ms
+             return eeprog::arranque(0xFF, 7'372'800) == 67'222'222;
+         }},
+    };
+    for (const auto& fila : filas) {
+        SCOPED_TRACE(fila.nombre);
+        ChipModelo chip(setentaysiete, 1'000'000, false);
+        EXPECT_TRUE(fila.pasos(chip));
+        EXPECT_EQ(chip.faltas().size(), fila.faltas) << (chip.faltas().empty() ? "" : chip.faltas().back());
     }
 }
 

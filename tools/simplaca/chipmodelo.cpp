@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 
 namespace eeprog {
 
@@ -12,7 +13,10 @@ constexpr std::int64_t accesodireccion = 150;
 constexpr std::int64_t accesoce = 150;
 constexpr std::int64_t accesooe = 70;
 constexpr std::int64_t pulsominimo = 100;
-constexpr std::int64_t ventanacarga = 150'000;
+constexpr std::int64_t preparaciondato = 50;   // tDS
+constexpr std::int64_t ventanacarga = 150'000; // tBLC
+constexpr std::int64_t inhibicion = 5'000'000; // writes refused after power-up
+constexpr std::uint16_t pagina = 0x1FC0;       // A6-A12 choose the 64-byte page
 
 struct Paso {
     std::uint16_t direccion;
@@ -37,6 +41,13 @@ bool conduce(const Patas& patas)
     return !patas.ce && !patas.oe && patas.we;
 }
 
+// A line changes when its level changes while driven, or when it is taken or let go.
+std::uint8_t cambiados(const Patas& antes, const Patas& despues)
+{
+    return static_cast<std::uint8_t>(((antes.datos & antes.conducidos) ^ (despues.datos & despues.conducidos)) |
+                                     (antes.conducidos ^ despues.conducidos));
+}
+
 std::string hexadecimal(unsigned valor, int cifras)
 {
     char texto[8];
@@ -46,13 +57,17 @@ std::string hexadecimal(unsigned valor, int cifras)
 
 } // namespace
 
-ChipModelo::ChipModelo(const Memoria& contenido, std::int64_t ciclo, bool protegido)
-    : celdas(contenido), ciclo(ciclo), proteccion(protegido)
-{}
+ChipModelo::ChipModelo(const Memoria& contenido, std::int64_t ciclo, bool protegido, bool muerto)
+    : celdas(contenido), ciclo(ciclo), proteccion(protegido), muerto(muerto)
+{
+    cambiodato.fill(std::numeric_limits<std::int64_t>::min() / 2);
+}
 
 void ChipModelo::cambiar(const Patas& nuevas, std::int64_t ahora)
 {
     avanzar(ahora);
+    if (const auto valor = salida(); valor && ahora >= valida)
+        enbus = *valor;
     const Patas antes = patas;
     patas = nuevas;
     if (nuevas.direccion != antes.direccion)
@@ -65,30 +80,22 @@ void ChipModelo::cambiar(const Patas& nuevas, std::int64_t ahora)
         empezarpulso(ahora);
     // The data latch on the rising edge: what was on the bus up to it.
     if (pulsando(antes) && !pulsando(nuevas))
-        acabarpulso(antes.datos, ahora);
+        acabarpulso(antes, ahora);
     if (!conduce(antes) && conduce(nuevas) && estado != Estado::reposo)
         alterno = !alterno;
+    anotarcambios(antes, ahora);
     vigilarconflicto(ahora);
 }
 
 // A pulse still going holds the load window open: the chip counts it from the pulse's end.
+// At the end of a write cycle the outputs go from the status to the byte without letting go
+// of the bus, so a read then is no fault.
 void ChipModelo::avanzar(std::int64_t ahora)
 {
     if (estado == Estado::cargando && !iniciopulso && ahora >= finventana)
         empezarciclo();
-    if (estado == Estado::escribiendo && ahora >= finciclo) {
+    if (estado == Estado::escribiendo && ahora >= finciclo)
         acabarciclo();
-        valida = std::max(valida, finciclo);
-    }
-}
-
-std::optional<std::int64_t> ChipModelo::proximo() const
-{
-    if (estado == Estado::cargando && !iniciopulso)
-        return finventana;
-    if (estado == Estado::escribiendo)
-        return finciclo;
-    return std::nullopt;
 }
 
 // While busy the chip answers any address with its status: I/O7 inverted from the last byte
@@ -101,6 +108,27 @@ std::optional<std::uint8_t> ChipModelo::salida() const
     if (estado != Estado::reposo)
         return static_cast<std::uint8_t>(ultimo ^ 0x80 ^ (alterno ? 0x40 : 0));
     return celdas[patas.direccion & (tamano - 1)];
+}
+
+// Bits the microcontroller drives read as it drives them, the chip's once its access times
+// have passed. Nobody drives the rest: they float, and read as anything but what was last on
+// the bus, so a firmware that samples too early or too late never gets the byte by luck.
+std::uint8_t ChipModelo::muestrear(std::int64_t cuando)
+{
+    avanzar(cuando);
+    const auto propio = salida();
+    const bool valido = propio && cuando >= valida;
+    const auto ajenos = static_cast<std::uint8_t>(~patas.conducidos);
+    auto valor = static_cast<std::uint8_t>((patas.datos & patas.conducidos) | (valido ? *propio & ajenos : 0));
+    if (valido || ajenos == 0)
+        return valor;
+    const std::string donde = "lectura del bus de datos en " + hexadecimal(patas.direccion & (tamano - 1), 4);
+    if (propio)
+        anotar(cuando, donde + " " + std::to_string(valida - cuando) +
+                           " ns antes de que el chip dé el dato; los bits " + hexadecimal(ajenos, 2) + " aún no valen");
+    else
+        anotar(cuando, donde + " con los bits " + hexadecimal(ajenos, 2) + " sin conducir por nadie; flotan");
+    return static_cast<std::uint8_t>(valor | flotar(ajenos, enbus));
 }
 
 // /WE and /CE both low with /OE high: a write pulse. /OE low inhibits the write.
@@ -116,54 +144,105 @@ void ChipModelo::empezarpulso(std::int64_t ahora)
     direccionpulso = patas.direccion & (tamano - 1);
 }
 
-void ChipModelo::acabarpulso(std::uint8_t dato, std::int64_t ahora)
+void ChipModelo::acabarpulso(const Patas& capturadas, std::int64_t ahora)
 {
-    const std::int64_t ancho = ahora - *iniciopulso;
+    const std::int64_t inicio = *iniciopulso;
+    const std::int64_t ancho = ahora - inicio;
     iniciopulso.reset();
-    if (ancho < pulsominimo) {
+    if (inicio < inhibicion) {
+        anotar(ahora, "pulso de escritura en " + hexadecimal(direccionpulso, 4) + " antes de los " +
+                          std::to_string(inhibicion / 1'000'000) + " ms del encendido; se ignora");
+    } else if (ancho < pulsominimo) {
         anotar(ahora, "pulso de escritura de " + std::to_string(ancho) + " ns en " + hexadecimal(direccionpulso, 4) +
                           ", menos de " + std::to_string(pulsominimo) + " ns; no se carga");
     } else if (estado == Estado::escribiendo) {
-        anotar(ahora, "carga de " + hexadecimal(dato, 2) + " en " + hexadecimal(direccionpulso, 4) +
+        anotar(ahora, "carga de " + hexadecimal(capturadas.datos, 2) + " en " + hexadecimal(direccionpulso, 4) +
                           " durante el ciclo de escritura; se pierde");
     } else {
-        cargar(direccionpulso, dato, ahora);
+        cargar(direccionpulso, capturar(capturadas, ahora), ahora);
     }
+}
+
+// The byte on the bus at the latch edge. A line nobody drives, or one still settling within
+// the setup time, latches whatever level it happens to have.
+std::uint8_t ChipModelo::capturar(const Patas& capturadas, std::int64_t ahora)
+{
+    const std::string dato = "dato cargado en " + hexadecimal(direccionpulso, 4) + " con los bits ";
+    const auto sueltos = static_cast<std::uint8_t>(~capturadas.conducidos);
+    if (sueltos != 0)
+        anotar(ahora, dato + hexadecimal(sueltos, 2) + " del bus de datos sin conducir; guarda cualquier cosa");
+    const std::uint8_t tarde = tardios(capturadas.conducidos, ahora);
+    if (tarde != 0)
+        anotar(ahora, dato + hexadecimal(tarde, 2) + " cambiados menos de " + std::to_string(preparaciondato) +
+                          " ns antes del flanco que lo captura; guarda cualquier cosa");
+    const auto dudosos = static_cast<std::uint8_t>(sueltos | tarde);
+    return static_cast<std::uint8_t>((capturadas.datos & ~dudosos) | flotar(dudosos, capturadas.datos));
+}
+
+// The driven lines that changed within the setup time before ahora.
+std::uint8_t ChipModelo::tardios(std::uint8_t lineas, std::int64_t ahora) const
+{
+    std::uint8_t bits = 0;
+    for (int bit = 0; bit < 8; ++bit)
+        if ((lineas >> bit & 1) && ahora - cambiodato[bit] < preparaciondato)
+            bits = static_cast<std::uint8_t>(bits | 1 << bit);
+    return bits;
 }
 
 void ChipModelo::cargar(std::uint16_t direccion, std::uint8_t dato, std::int64_t ahora)
 {
-    cargas.push_back({direccion, dato});
+    cargas.push_back({direccion, dato, ahora});
     ultimo = dato;
     alterno = false;
     estado = Estado::cargando;
     finventana = ahora + ventanacarga;
 }
 
-// The whole load is judged when the window closes. A load the protection refuses still runs
+// The whole load is judged when the window closes: only then is it known whether it began
+// with a command, whose bytes lie outside any page. A load the protection refuses still runs
 // its write cycle, polled as any other, and stores nothing.
 void ChipModelo::empezarciclo()
 {
-    pendientes.clear();
     protecciondespues = proteccion;
+    std::size_t ordenes = 0;
     if (empiezacon(cargas, desactivar)) {
         protecciondespues = false;
-        pendientes.assign(cargas.begin() + std::size(desactivar), cargas.end());
+        ordenes = std::size(desactivar);
     } else if (empiezacon(cargas, activar)) {
         protecciondespues = true;
-        pendientes.assign(cargas.begin() + std::size(activar), cargas.end());
-    } else if (!proteccion) {
-        pendientes = cargas;
+        ordenes = std::size(activar);
     }
+    pendientes = enpagina(cargas.begin() + static_cast<std::ptrdiff_t>(ordenes));
+    if (ordenes == 0 && proteccion)
+        pendientes.clear();
     cargas.clear();
     estado = Estado::escribiendo;
     finciclo = finventana + ciclo;
 }
 
+// One write cycle writes one page, the page of the first data byte: the others are lost.
+std::vector<ChipModelo::Carga> ChipModelo::enpagina(std::vector<Carga>::const_iterator desde)
+{
+    std::vector<Carga> dentro;
+    const unsigned propia = desde == cargas.end() ? 0 : desde->direccion & pagina;
+    for (auto carga = desde; carga != cargas.end(); ++carga) {
+        if ((carga->direccion & pagina) == propia) {
+            dentro.push_back(*carga);
+            continue;
+        }
+        anotar(carga->cuando, "carga de " + hexadecimal(carga->dato, 2) + " en " + hexadecimal(carga->direccion, 4) +
+                                  " fuera de la página " + hexadecimal(propia, 4) + "-" +
+                                  hexadecimal(propia | (tamano - 1 - pagina), 4) + " de su carga; no se escribe");
+    }
+    return dentro;
+}
+
+// Only the bytes loaded are written; the rest of their page keeps what it had.
 void ChipModelo::acabarciclo()
 {
-    for (const Carga& carga : pendientes)
-        celdas[carga.direccion] = carga.dato;
+    if (!muerto)
+        for (const Carga& carga : pendientes)
+            celdas[carga.direccion] = carga.dato;
     pendientes.clear();
     proteccion = protecciondespues;
     estado = Estado::reposo;
@@ -177,6 +256,27 @@ void ChipModelo::vigilarconflicto(std::int64_t ahora)
         anotar(ahora, "el chip y el microcontrolador conducen a la vez el bus de datos (bits " +
                           hexadecimal(patas.conducidos, 2) + ") en " + hexadecimal(patas.direccion & (tamano - 1), 4));
     enconflicto = ambos;
+}
+
+// Each line change counts from its last change, for the setup time.
+void ChipModelo::anotarcambios(const Patas& antes, std::int64_t ahora)
+{
+    const std::uint8_t bits = cambiados(antes, patas);
+    for (int bit = 0; bit < 8; ++bit)
+        if (bits >> bit & 1)
+            cambiodato[bit] = ahora;
+}
+
+// Random levels for the bits given, never all as in evitar: a floating line that happened to
+// keep its old level would hide the fault.
+std::uint8_t ChipModelo::flotar(std::uint8_t bits, std::uint8_t evitar)
+{
+    if (bits == 0)
+        return 0;
+    auto valor = static_cast<std::uint8_t>(azar() >> 8);
+    if (((valor ^ evitar) & bits) == 0)
+        valor = static_cast<std::uint8_t>(valor ^ bits);
+    return static_cast<std::uint8_t>(valor & bits);
 }
 
 void ChipModelo::anotar(std::int64_t ahora, const std::string& texto)

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -20,51 +21,59 @@ struct Patas {
     std::uint8_t conducidos = 0;
 };
 
-// The chip as the microcontroller's pins see it, with time in nanoseconds: whoever drives it
-// tells it every change of its pins and lets its own time pass, and it answers with what it
-// drives on the data bus. It keeps the bus faults a real chip would suffer from.
+// The chip as the microcontroller's pins see it, with time in nanoseconds from power-up:
+// whoever drives it tells it every change of its pins and lets its own time pass, and it
+// answers with what it drives on the data bus. It keeps the bus faults a real chip would
+// suffer from, and shows their effects.
 class ChipModelo {
 public:
     static constexpr int tamano = 8192;
     using Memoria = std::array<std::uint8_t, tamano>;
 
-    ChipModelo(const Memoria& contenido, std::int64_t ciclo, bool protegido);
+    // A dead chip (muerto) runs its write cycles and keeps nothing written, as a worn-out part.
+    ChipModelo(const Memoria& contenido, std::int64_t ciclo, bool protegido, bool muerto = false);
 
     // The pins as they are from the moment ahora on.
     void cambiar(const Patas& nuevas, std::int64_t ahora);
     // Lets the chip's own time run to ahora: the load window closes, the write cycle ends.
     void avanzar(std::int64_t ahora);
-    // When the chip will next change by itself, if it is waiting for anything.
-    std::optional<std::int64_t> proximo() const;
 
-    // What the chip drives on the data bus, and from when it is valid after the access times.
+    // What the chip drives on the data bus, valid or not yet.
     std::optional<std::uint8_t> salida() const;
-    std::int64_t validadesde() const { return valida; }
+    // The data bus as the microcontroller samples it at cuando.
+    std::uint8_t muestrear(std::int64_t cuando);
 
     const Memoria& memoria() const { return celdas; }
     bool protegido() const { return proteccion; }
-    // One line per fault, in the order they happened.
+    // One line per fault, in the order they were seen; the board adds its own.
     const std::vector<std::string>& faltas() const { return registro; }
+    void anotar(std::int64_t ahora, const std::string& texto);
 
 private:
     struct Carga {
         std::uint16_t direccion;
         std::uint8_t dato;
+        std::int64_t cuando;
     };
     enum class Estado { reposo, cargando, escribiendo };
 
     bool pulsando(const Patas& patas) const;
     void empezarpulso(std::int64_t ahora);
-    void acabarpulso(std::uint8_t dato, std::int64_t ahora);
+    void acabarpulso(const Patas& capturadas, std::int64_t ahora);
+    std::uint8_t capturar(const Patas& capturadas, std::int64_t ahora);
+    std::uint8_t tardios(std::uint8_t lineas, std::int64_t ahora) const;
     void cargar(std::uint16_t direccion, std::uint8_t dato, std::int64_t ahora);
     void empezarciclo();
+    std::vector<Carga> enpagina(std::vector<Carga>::const_iterator desde);
     void acabarciclo();
     void vigilarconflicto(std::int64_t ahora);
-    void anotar(std::int64_t ahora, const std::string& texto);
+    void anotarcambios(const Patas& antes, std::int64_t ahora);
+    std::uint8_t flotar(std::uint8_t bits, std::uint8_t evitar);
 
     Memoria celdas;
     std::int64_t ciclo;
     bool proteccion;
+    bool muerto;
     Patas patas;
     Estado estado = Estado::reposo;
     std::vector<Carga> cargas;
@@ -78,6 +87,9 @@ private:
     bool alterno = false;    // I/O6, which toggles on each read while the chip is busy
     bool enconflicto = false;
     std::int64_t valida = 0;
+    std::array<std::int64_t, 8> cambiodato; // when each data line last changed, in level or drive
+    std::uint8_t enbus = 0;                 // what the chip last put on the bus
+    std::minstd_rand azar;                  // a fixed seed: runs repeat exactly
     std::vector<std::string> registro;
 };
 

@@ -17,6 +17,7 @@
 #include <fstream>
 #include <iostream>
 #include <limits>
+#include <vector>
 
 namespace {
 
@@ -72,6 +73,19 @@ int servir(eeprog::PlacaSimulada& placa, const eeprog::Opciones& opciones, const
     return bien ? 0 : 1;
 }
 
+// One line for each text given; false, with a word on the error output, when the file cannot
+// be written.
+bool escribirlineas(const std::string& ruta, const std::vector<std::string>& lineas, const char* que)
+{
+    std::ofstream archivo(ruta, std::ios::trunc);
+    for (const std::string& linea : lineas)
+        archivo << linea << '\n';
+    archivo.close();
+    if (!archivo)
+        std::cerr << "eeprog-simplaca: no se puede escribir " << que << " en " << ruta << '\n';
+    return static_cast<bool>(archivo);
+}
+
 bool guardar(const eeprog::ChipModelo& chip, const eeprog::Opciones& opciones)
 {
     bool bien = true;
@@ -81,16 +95,10 @@ bool guardar(const eeprog::ChipModelo& chip, const eeprog::Opciones& opciones)
             bien = false;
         }
     }
-    if (!opciones.faltas.empty()) {
-        std::ofstream archivo(opciones.faltas, std::ios::trunc);
-        for (const std::string& falta : chip.faltas())
-            archivo << falta << '\n';
-        archivo.close();
-        if (!archivo) {
-            std::cerr << "eeprog-simplaca: no se pueden escribir las faltas en " << opciones.faltas << '\n';
-            bien = false;
-        }
-    }
+    if (!opciones.faltas.empty())
+        bien = escribirlineas(opciones.faltas, chip.faltas(), "las faltas") && bien;
+    if (!opciones.estado.empty())
+        bien = escribirlineas(opciones.estado, {chip.protegido() ? "protegido" : "desprotegido"}, "el estado") && bien;
     return bien;
 }
 
@@ -116,7 +124,7 @@ int main(int argc, char* argv[])
         std::cerr << "eeprog-simplaca: no se puede leer la imagen " << opciones->imagen << '\n';
         return 1;
     }
-    eeprog::ChipModelo chip(contenido, opciones->ciclo * 1000, opciones->protegido);
+    eeprog::ChipModelo chip(contenido, opciones->ciclo * 1000, opciones->protegido, opciones->muerto);
     std::string error;
     auto placa = eeprog::PlacaSimulada::crear(firmware, chip, error);
     if (!placa) {

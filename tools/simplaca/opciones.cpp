@@ -8,7 +8,7 @@ namespace eeprog {
 
 namespace {
 
-enum Clave { firmware = 1, enlace, imagen, volcado, faltas, protegido, ciclo, ayuda };
+enum Clave { firmware = 1, enlace, imagen, volcado, faltas, protegido, ciclo, ayuda, muerto, estado };
 
 const option claves[] = {
     {"firmware", required_argument, nullptr, firmware},
@@ -20,6 +20,8 @@ const option claves[] = {
     {"ciclo", required_argument, nullptr, ciclo},
     {"ayuda", no_argument, nullptr, ayuda},
     {"help", no_argument, nullptr, ayuda},
+    {"chip-muerto", no_argument, nullptr, muerto},
+    {"estado", required_argument, nullptr, estado},
     {nullptr, 0, nullptr, 0},
 };
 
@@ -49,6 +51,12 @@ bool tomar(int clave, const char* valor, Opciones& opciones)
         return true;
     case ayuda:
         opciones.ayuda = true;
+        return true;
+    case muerto:
+        opciones.muerto = true;
+        return true;
+    case estado:
+        opciones.estado = valor;
         return true;
     case ciclo:
         if (const auto numero = numeroentre(valor, 1, ciclomaximo)) {
@@ -92,6 +100,10 @@ std::string usosimulada()
            "  --ciclo MICROSEGUNDOS  duración del ciclo de escritura del chip (1000)\n"
            "  --faltas ARCHIVO     al terminar, escribe una línea por cada falta en el\n"
            "                       bus del chip (vacío si no hubo ninguna)\n"
+           "  --chip-muerto        el chip no guarda nada de lo que se le escribe, aunque\n"
+           "                       cumple sus ciclos de escritura, como uno gastado\n"
+           "  --estado ARCHIVO     al terminar, escribe \"protegido\" o \"desprotegido\",\n"
+           "                       según la protección de datos del chip\n"
            "  --ayuda, --help      muestra esta ayuda\n";
 }
 

@@ -13,7 +13,9 @@ struct Opciones {
     std::string imagen;
     std::string volcado;
     std::string faltas;
+    std::string estado;
     bool protegido = false;
+    bool muerto = false;
     std::int64_t ciclo = 1000; // the chip's write cycle, in microseconds
     bool ayuda = false;
 };

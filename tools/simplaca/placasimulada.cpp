@@ -1,5 +1,7 @@
 #include "placasimulada.h"
 
+#include "fusibles.h"
+
 #include <avr_ioport.h>
 #include <avr_uart.h>
 #include <sim_avr.h>
@@ -21,6 +23,7 @@ constexpr std::uint8_t pince = 0x04; // PD2
 constexpr std::uint8_t pinoe = 0x08; // PD3
 constexpr std::uint8_t pinwe = 0x10; // PD4
 constexpr std::uint8_t altas = 0x1F; // A8-A12 on PB0-PB4
+constexpr std::uint16_t pina = 0x39; // in the data space: I/O address 0x19
 constexpr char uart = '0';
 
 // simavr's own chatter would mix with the terminal's path on standard output; only its
@@ -55,6 +58,21 @@ bool esavr(const std::string& ruta)
     return std::equal(std::begin(magia), std::end(magia), cabecera) && cabecera[18] == maquinaavr && cabecera[19] == 0;
 }
 
+// simavr's loader copies the ELF's .fuse section into the core's fuses; an ELF without one
+// leaves the part as it left the factory. Their faults are the board's, noted at power-up.
+std::int64_t encender(const elf_firmware_t& elf, const avr_t& avr, ChipModelo& chip)
+{
+    if (elf.fusesize == 0) {
+        chip.anotar(0, "el firmware no trae fusibles (sección .fuse): el ATmega16 queda con los de fábrica, "
+                       "sin cristal ni detección de caída de tensión; el fusible bajo debe ser 0x3F");
+        return arranque(fusiblebajodefabrica, PlacaSimulada::frecuencia);
+    }
+    const std::uint8_t bajo = avr.fuse[AVR_FUSE_LOW];
+    if (const auto falta = revisarfusible(bajo))
+        chip.anotar(0, *falta);
+    return arranque(bajo, PlacaSimulada::frecuencia);
+}
+
 } // namespace
 
 std::unique_ptr<PlacaSimulada> PlacaSimulada::crear(const std::string& firmware, ChipModelo& chip, std::string& error)
@@ -83,12 +101,14 @@ std::unique_ptr<PlacaSimulada> PlacaSimulada::crear(const std::string& firmware,
     elf.frequency = frecuencia;
     avr_load_firmware(avr, &elf);
     avr->frequency = frecuencia;
-    std::unique_ptr<PlacaSimulada> placa(new PlacaSimulada(avr, chip));
+    std::unique_ptr<PlacaSimulada> placa(new PlacaSimulada(avr, chip, encender(elf, *avr, chip)));
     placa->conectar();
     return placa;
 }
 
-PlacaSimulada::PlacaSimulada(avr_t* avr, ChipModelo& chip) : avr(avr), chip(chip) {}
+PlacaSimulada::PlacaSimulada(avr_t* avr, ChipModelo& chip, std::int64_t encendido)
+    : avr(avr), chip(chip), encendido(encendido)
+{}
 
 PlacaSimulada::~PlacaSimulada()
 {
@@ -102,8 +122,7 @@ void PlacaSimulada::conectar()
                                 this);
     avr_irq_register_notify(avr_io_getirq(avr, AVR_IOCTL_IOPORT_GETIRQ('A'), IOPORT_IRQ_DIRECTION_ALL), aldireccion,
                             this);
-    for (int bit = 0; bit < 8; ++bit)
-        datos[bit] = avr_io_getirq(avr, AVR_IOCTL_IOPORT_GETIRQ('A'), bit);
+    engancharpina();
     // No console echo, and no sleeping in the core while the firmware polls its UART: the
     // simulation is paced from outside.
     std::uint32_t banderas = 0;
@@ -112,6 +131,20 @@ void PlacaSimulada::conectar()
     avr_irq_register_notify(avr_io_getirq(avr, AVR_IOCTL_UART_GETIRQ(uart), UART_IRQ_OUTPUT), alenviar, this);
     avr_irq_register_notify(avr_io_getirq(avr, AVR_IOCTL_UART_GETIRQ(uart), UART_IRQ_OUT_XON), alxon, this);
     avr_irq_register_notify(avr_io_getirq(avr, AVR_IOCTL_UART_GETIRQ(uart), UART_IRQ_OUT_XOFF), alxoff, this);
+}
+
+// The firmware's reads of PINA must see the bus as the chip leaves it, floating lines and
+// all. The ioport module owns that address's read hook and avr_register_io_read refuses a
+// second one, so the board takes the slot in avr_t's public io table itself and hands each
+// read on to the port's hook first, which still gives the bits the port drives and raises
+// its own signals.
+void PlacaSimulada::engancharpina()
+{
+    auto& lectura = avr->io[AVR_DATA_TO_IO(pina)].r;
+    leerpina = lectura.c;
+    puertoa = lectura.param;
+    lectura.c = alleer;
+    lectura.param = this;
 }
 
 bool PlacaSimulada::correr(std::int64_t hasta)
@@ -154,8 +187,7 @@ Patas PlacaSimulada::leerpatas() const
     patas.oe = nivel(d, pinoe);
     patas.we = nivel(d, pinwe);
     patas.direccion = static_cast<std::uint16_t>(c.port | ((b.port & altas) << 8));
-    // Bits the port does not drive keep what was last on the bus.
-    patas.datos = static_cast<std::uint8_t>((a.port & ddra) | (a.pin & ~ddra));
+    patas.datos = static_cast<std::uint8_t>(a.port & ddra);
     patas.conducidos = ddra;
     return patas;
 }
@@ -163,37 +195,13 @@ Patas PlacaSimulada::leerpatas() const
 void PlacaSimulada::cambiopatas()
 {
     chip.cambiar(leerpatas(), ahora());
-    refrescar();
 }
 
-// The chip's output reaches PINA one cycle after it is valid, for the port's synchronizer;
-// until then PINA keeps what it had. The next change the chip makes by itself, or the moment
-// its output becomes visible, is when the core calls back.
-void PlacaSimulada::refrescar()
+// PINA shows the pins as they were a cycle before, for the port's synchronizer.
+std::uint8_t PlacaSimulada::leerbus(std::uint8_t puerto)
 {
-    chip.avanzar(ahora());
-    std::optional<std::uint64_t> despertar;
-    if (const auto valor = chip.salida()) {
-        const std::uint64_t visible = ciclos(chip.validadesde()) + 1;
-        if (avr->cycle >= visible)
-            conducir(*valor);
-        else
-            despertar = visible;
-    }
-    if (const auto proximo = chip.proximo()) {
-        const std::uint64_t cuando = ciclos(*proximo);
-        despertar = despertar ? std::min(*despertar, cuando) : cuando;
-    }
-    if (despertar)
-        avr_cycle_timer_register(avr, *despertar > avr->cycle ? *despertar - avr->cycle : 0, alreloj, this);
-    else
-        avr_cycle_timer_cancel(avr, alreloj, this);
-}
-
-void PlacaSimulada::conducir(std::uint8_t valor)
-{
-    for (int bit = 0; bit < 8; ++bit)
-        avr_raise_irq(datos[bit], (valor >> bit) & 1);
+    const std::int64_t pines = nanosegundos(avr->cycle > 0 ? avr->cycle - 1 : 0);
+    return static_cast<std::uint8_t>((puerto & ddra) | (chip.muestrear(pines) & ~ddra));
 }
 
 // simavr's receiver says xoff when its buffer is full and xon whenever it has room again.
@@ -206,18 +214,26 @@ void PlacaSimulada::entregar()
     }
 }
 
-// Split so that cycles times 10^9 stays within 64 bits however long the board runs.
+// The chip's time at a cycle of the core. Split so that cycles times 10^9 stays within 64
+// bits however long the board runs.
 std::int64_t PlacaSimulada::nanosegundos(std::uint64_t cuantos) const
 {
-    return static_cast<std::int64_t>(cuantos / frecuencia * 1'000'000'000 +
-                                     cuantos % frecuencia * 1'000'000'000 / frecuencia);
+    return encendido + static_cast<std::int64_t>(cuantos / frecuencia * 1'000'000'000 +
+                                                 cuantos % frecuencia * 1'000'000'000 / frecuencia);
 }
 
-// Rounded up: the first cycle at or after the given time.
+// Rounded up: the first cycle of the core at or after the chip's time given.
 std::uint64_t PlacaSimulada::ciclos(std::int64_t cuando) const
 {
-    const auto ns = static_cast<std::uint64_t>(cuando < 0 ? 0 : cuando);
+    const auto ns = static_cast<std::uint64_t>(cuando < encendido ? 0 : cuando - encendido);
     return ns / 1'000'000'000 * frecuencia + (ns % 1'000'000'000 * frecuencia + 999'999'999) / 1'000'000'000;
+}
+
+std::uint8_t PlacaSimulada::alleer(avr_t* avr, std::uint16_t direccion, void* placa)
+{
+    auto* esta = static_cast<PlacaSimulada*>(placa);
+    const std::uint8_t puerto = esta->leerpina ? esta->leerpina(avr, direccion, esta->puertoa) : avr->data[direccion];
+    return esta->leerbus(puerto);
 }
 
 void PlacaSimulada::alpuerto(avr_irq_t*, std::uint32_t, void* placa)
@@ -248,12 +264,6 @@ void PlacaSimulada::alxoff(avr_irq_t*, std::uint32_t valor, void* placa)
 {
     if (valor != 0)
         static_cast<PlacaSimulada*>(placa)->admite = false;
-}
-
-std::uint64_t PlacaSimulada::alreloj(avr_t*, std::uint64_t, void* placa)
-{
-    static_cast<PlacaSimulada*>(placa)->refrescar();
-    return 0;
 }
 
 } // namespace eeprog

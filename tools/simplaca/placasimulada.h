@@ -14,7 +14,8 @@ namespace eeprog {
 
 // The board's ATmega16 running its firmware in simavr, wired to the chip as the board is:
 // data on port A, address on ports C and B, /CE, /OE and /WE on PD2-PD4, and its UART
-// taking bytes from the program and giving back the firmware's replies.
+// taking bytes from the program and giving back the firmware's replies. Time is the chip's,
+// from power-up; the core starts when its fuses' start-up delay is over.
 class PlacaSimulada {
 public:
     static constexpr std::uint32_t frecuencia = 7'372'800;
@@ -25,7 +26,7 @@ public:
     PlacaSimulada(const PlacaSimulada&) = delete;
     PlacaSimulada& operator=(const PlacaSimulada&) = delete;
 
-    // Runs the core until its clock reaches hasta, in nanoseconds since reset, or until the
+    // Runs the core until its clock reaches hasta, in nanoseconds since power-up, or until the
     // firmware has sent a byte, which should not wait. False once the core has stopped for
     // good (a crash, or a firmware that ended).
     bool correr(std::int64_t hasta);
@@ -37,26 +38,29 @@ public:
     std::string tomarsalida();
 
 private:
-    PlacaSimulada(avr_t* avr, ChipModelo& chip);
+    PlacaSimulada(avr_t* avr, ChipModelo& chip, std::int64_t encendido);
     void conectar();
+    void engancharpina();
     Patas leerpatas() const;
     void cambiopatas();
-    void refrescar();
-    void conducir(std::uint8_t valor);
+    std::uint8_t leerbus(std::uint8_t puerto);
     void entregar();
     std::int64_t nanosegundos(std::uint64_t ciclos) const;
     std::uint64_t ciclos(std::int64_t nanosegundos) const;
 
+    static std::uint8_t alleer(avr_t* avr, std::uint16_t direccion, void* placa);
     static void alpuerto(avr_irq_t* irq, std::uint32_t valor, void* placa);
     static void aldireccion(avr_irq_t* irq, std::uint32_t valor, void* placa);
     static void alenviar(avr_irq_t* irq, std::uint32_t valor, void* placa);
     static void alxon(avr_irq_t* irq, std::uint32_t valor, void* placa);
     static void alxoff(avr_irq_t* irq, std::uint32_t valor, void* placa);
-    static std::uint64_t alreloj(avr_t* avr, std::uint64_t cuando, void* placa);
 
     avr_t* avr;
     ChipModelo& chip;
-    avr_irq_t* datos[8] = {};
+    // The chip's time when the core starts.
+    std::int64_t encendido;
+    std::uint8_t (*leerpina)(avr_t*, std::uint16_t, void*) = nullptr; // the port's own
+    void* puertoa = nullptr;
     avr_irq_t* entrada = nullptr;
     std::uint8_t ddra = 0; // port A's direction as just written: the register lags its hook
     std::deque<std::uint8_t> pendientes;
