@@ -252,8 +252,9 @@ TEST_P(OrdenPlaca, ARunRightAfterAnInterruptedOneWritesOnlyItsOwnBytes)
         esperado.replace(0x10, 3, "ABC");
         const auto distinto = std::mismatch(esperado.begin(), esperado.end(), chip.begin(), chip.end()).first;
         EXPECT_EQ(distinto - esperado.begin(), 8192) << "the first byte that differs";
-        if (senal == SIGINT)
+        if (senal == SIGINT) {
             EXPECT_EQ(escritos % 16, 0u) << "a frame left half written";
+        }
     }
 }
 

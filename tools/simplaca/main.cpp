@@ -73,16 +73,16 @@ int servir(eeprog::PlacaSimulada& placa, const eeprog::Opciones& opciones, const
     return bien ? 0 : 1;
 }
 
-// One line for each text given; false, with a word on the error output, when the file cannot
-// be written.
-bool escribirlineas(const std::string& ruta, const std::vector<std::string>& lineas, const char* que)
+// One line for each fault; false, with a word on the error output, when the file cannot be
+// written.
+bool escribirfaltas(const std::string& ruta, const std::vector<std::string>& faltas)
 {
     std::ofstream archivo(ruta, std::ios::trunc);
-    for (const std::string& linea : lineas)
-        archivo << linea << '\n';
+    for (const std::string& falta : faltas)
+        archivo << falta << '\n';
     archivo.close();
     if (!archivo)
-        std::cerr << "eeprog-simplaca: no se puede escribir " << que << " en " << ruta << '\n';
+        std::cerr << "eeprog-simplaca: no se pueden escribir las faltas en " << ruta << '\n';
     return static_cast<bool>(archivo);
 }
 
@@ -96,9 +96,11 @@ bool guardar(const eeprog::ChipModelo& chip, const eeprog::Opciones& opciones)
         }
     }
     if (!opciones.faltas.empty())
-        bien = escribirlineas(opciones.faltas, chip.faltas(), "las faltas") && bien;
-    if (!opciones.estado.empty())
-        bien = escribirlineas(opciones.estado, {chip.protegido() ? "protegido" : "desprotegido"}, "el estado") && bien;
+        bien = escribirfaltas(opciones.faltas, chip.faltas()) && bien;
+    if (!opciones.estado.empty() && !eeprog::escribirproteccion(opciones.estado, chip.protegido())) {
+        std::cerr << "eeprog-simplaca: no se puede escribir el estado " << opciones.estado << '\n';
+        bien = false;
+    }
     return bien;
 }
 
