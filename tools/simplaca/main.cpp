@@ -133,6 +133,7 @@ int main(int argc, char* argv[])
         std::cerr << "eeprog-simplaca: " << error << '\n';
         return 1;
     }
+    placa->oirmal(opciones->ruido);
     const int resultado = servir(*placa, *opciones, eeprog::vigilarsenales({SIGINT, SIGTERM, SIGHUP}));
     // A write cycle under way finishes on the chip's own, as it would after the board stops.
     chip.avanzar(std::numeric_limits<std::int64_t>::max());

@@ -3,12 +3,13 @@
 #include "orden.h"
 
 #include <iostream>
+#include <limits>
 
 namespace eeprog {
 
 namespace {
 
-enum Clave { firmware = 1, enlace, imagen, volcado, faltas, protegido, ciclo, ayuda, muerto, estado };
+enum Clave { firmware = 1, enlace, imagen, volcado, faltas, protegido, ciclo, ayuda, muerto, estado, ruido };
 
 const option claves[] = {
     {"firmware", required_argument, nullptr, firmware},
@@ -22,6 +23,7 @@ const option claves[] = {
     {"help", no_argument, nullptr, ayuda},
     {"chip-muerto", no_argument, nullptr, muerto},
     {"estado", required_argument, nullptr, estado},
+    {"ruido", required_argument, nullptr, ruido},
     {nullptr, 0, nullptr, 0},
 };
 
@@ -58,6 +60,13 @@ bool tomar(int clave, const char* valor, Opciones& opciones)
     case estado:
         opciones.estado = valor;
         return true;
+    case ruido:
+        if (const auto numero = numeroentre(valor, 1, std::numeric_limits<long>::max())) {
+            opciones.ruido = *numero;
+            return true;
+        }
+        std::cerr << "eeprog-simplaca: --ruido pide un número mayor que 0: " << valor << '\n';
+        return false;
     case ciclo:
         if (const auto numero = numeroentre(valor, 1, ciclomaximo)) {
             opciones.ciclo = *numero;
@@ -104,6 +113,8 @@ std::string usosimulada()
            "                       cumple sus ciclos de escritura, como uno gastado\n"
            "  --estado ARCHIVO     al terminar, escribe \"protegido\" o \"desprotegido\",\n"
            "                       según la protección de datos del chip\n"
+           "  --ruido N            el N-ésimo byte del programa llega con error de\n"
+           "                       trama, como lo dejaría el ruido en la línea\n"
            "  --ayuda, --help      muestra esta ayuda\n";
 }
 

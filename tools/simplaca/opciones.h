@@ -17,6 +17,7 @@ struct Opciones {
     bool protegido = false;
     bool muerto = false;
     std::int64_t ciclo = 1000; // the chip's write cycle, in microseconds
+    long ruido = 0;            // the byte from the program heard with a framing error, from 1
     bool ayuda = false;
 };
 

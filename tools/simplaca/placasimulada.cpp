@@ -208,9 +208,9 @@ std::uint8_t PlacaSimulada::leerbus(std::uint8_t puerto)
 void PlacaSimulada::entregar()
 {
     while (admite && !pendientes.empty()) {
-        const std::uint8_t byte = pendientes.front();
+        const std::uint32_t byte = pendientes.front();
         pendientes.pop_front();
-        avr_raise_irq(entrada, byte);
+        avr_raise_irq(entrada, ++oidos == ruido ? byte | UART_INPUT_FE : byte);
     }
 }
 

@@ -34,6 +34,9 @@ public:
 
     // Bytes from the program, handed to the UART as fast as its receiver takes them.
     void recibir(const std::string& bytes);
+    // The nth byte from the program, counted from 1 over the board's life, arrives with a
+    // framing error, as noise on the line would leave it.
+    void oirmal(long enesimo) { ruido = enesimo; }
     // The firmware's bytes sent since the last call.
     std::string tomarsalida();
 
@@ -65,6 +68,8 @@ private:
     std::uint8_t ddra = 0; // port A's direction as just written: the register lags its hook
     std::deque<std::uint8_t> pendientes;
     bool admite = false; // the receiver has room (simavr's xon)
+    long oidos = 0;
+    long ruido = 0;
     std::string salida;
 };
 
