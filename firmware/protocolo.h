@@ -29,8 +29,8 @@ enum {
  * board is idle again. The board cannot see a port being opened, so a program that died in
  * the middle of a frame would otherwise have the next program's bytes taken as that frame's
  * data. Inside a frame the program's longest silence is the budget of one reply, 0.1 s to
- * 0.2 s; half a second is well above that and below the half second the window takes to
- * send its first byte after it starts. */
+ * 0.2 s; half a second is well above that, and no longer than the window takes from its start
+ * to its first byte (its splash's first tick). */
 #define TIEMPOREPOSO 500
 
 /* What the protocol needs of the chip. escribir and escribirprotegido return once the chip has

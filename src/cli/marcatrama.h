@@ -20,8 +20,6 @@ public:
     void poner() const;
     void quitar() const;
 
-    const std::string& ruta() const { return ruta_; }
-
 private:
     std::string ruta_;
 };
