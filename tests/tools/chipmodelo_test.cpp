@@ -122,6 +122,12 @@ TEST(ChipModelo, BrokenRulesAreFaults)
              chip.cambiar({.ce = false, .oe = false, .direccion = 0x0123}, despierto + 200);
              return chip.muestrear(despierto + 260) != 0x77;
          }},
+        {"ReadBefore150nsAfterTheAddress", 1,
+         [](ChipModelo& chip) {
+             leer(chip, despierto, 0x0123);
+             chip.cambiar({.ce = false, .oe = false, .direccion = 0x0124}, despierto + 400);
+             return chip.muestrear(despierto + 500) != 0x77;
+         }},
         {"LoadLeavesItsPage", 1,
          [](ChipModelo& chip) {
              chip.avanzar(cargar(chip, cargar(chip, despierto, 0x0041, 0x11), 0x0080, 0x22) + 2'000'000);
