@@ -98,7 +98,7 @@ struct AcoplamientoTest : ::testing::Test {
 TEST(Glifos, EachByteHasTheGlyphOfItsCodePageAndOnlyThoseGlyphsHaveACode)
 {
     // clang-format off
-    const std::pair<int, char32_t> glifos[] = {{1, U'\u263A'}, {10, U'\u25D9'}, {31, U'\u25BC'}, {126, U'~'},
+    const std::pair<int, char32_t> glifos[] = {{1, U'\u263A'}, {10, U'\u25D9'}, {31, U'\u25BC'}, {32, U' '}, {126, U'~'},
                                                {127, U'\u2302'}, {0x80, U'\u00C7'}, {0xFE, U'\u25A0'}, {0xFF, U'\u00A0'}};
     // clang-format on
     for (const auto& [codigo, letra] : glifos)

@@ -21,13 +21,11 @@ struct Corrida {
     std::string errores;
 };
 
-// Runs eeprog-cli as a user would, its outputs caught in files of the given folder; with a
-// pause, the user presses Ctrl+C (or sends the signal given) once it is over.
-inline Corrida correrorden(const std::vector<std::string>& argumentos, const std::string& carpeta,
-                           std::chrono::milliseconds interrupcion = {}, int senal = SIGINT)
+// Runs a program, the first word, as a user would, its outputs caught in files of the given
+// folder; with a pause, the user presses Ctrl+C (or sends the signal given) once it is over.
+inline Corrida correrprograma(std::vector<std::string> palabras, const std::string& carpeta,
+                              std::chrono::milliseconds interrupcion = {}, int senal = SIGINT)
 {
-    std::vector<std::string> palabras{EEPROG_CLI};
-    palabras.insert(palabras.end(), argumentos.begin(), argumentos.end());
     std::vector<char*> argv;
     for (std::string& palabra : palabras)
         argv.push_back(palabra.data());
@@ -40,7 +38,7 @@ inline Corrida correrorden(const std::vector<std::string>& argumentos, const std
     Corrida corrida;
     pid_t hijo = 0;
     int estado = 0;
-    const bool lanzado = posix_spawn(&hijo, EEPROG_CLI, &acciones, nullptr, argv.data(), environ) == 0;
+    const bool lanzado = posix_spawn(&hijo, argv[0], &acciones, nullptr, argv.data(), environ) == 0;
     posix_spawn_file_actions_destroy(&acciones);
     if (!lanzado)
         return corrida;
@@ -58,6 +56,14 @@ inline Corrida correrorden(const std::vector<std::string>& argumentos, const std
     corrida.salida = contenido(salida);
     corrida.errores = contenido(errores);
     return corrida;
+}
+
+inline Corrida correrorden(const std::vector<std::string>& argumentos, const std::string& carpeta,
+                           std::chrono::milliseconds interrupcion = {}, int senal = SIGINT)
+{
+    std::vector<std::string> palabras{EEPROG_CLI};
+    palabras.insert(palabras.end(), argumentos.begin(), argumentos.end());
+    return correrprograma(palabras, carpeta, interrupcion, senal);
 }
 
 } // namespace eeprog::prueba

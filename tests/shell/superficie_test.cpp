@@ -18,6 +18,59 @@ struct SuperficieTest : VentanaPrueba {
     }
 };
 
+// Everything the window offers, as a user reads it: each button's word, tool tip and state,
+// then the menu bar left to right with each entry's caption and shortcut; "-" is a separator.
+TEST_F(SuperficieTest, TheButtonsAndTheMenuBarOfferEveryCommand)
+{
+    std::string superficie;
+    for (int boton = 0; boton < 8; ++boton) {
+        BotonImagen& b = ventana->boton(boton);
+        superficie += b.objectName().toStdString() + ' ' + b.toolTip().toStdString() +
+                      (b.isEnabled() ? "\n" : " (disabled)\n");
+    }
+    auto linea = [&](const QAction* a, const char* sangria) {
+        superficie += sangria + a->objectName().toStdString() + ' ' +
+                      (a->isSeparator() ? std::string("-") : a->text().toStdString()) +
+                      (a->shortcut().isEmpty() ? "" : ' ' + a->shortcut().toString().toStdString()) + '\n';
+    };
+    for (const QAction* a : ventana->menuBar()->actions()) {
+        linea(a, "");
+        if (a->menu())
+            for (const QAction* b : a->menu()->actions())
+                linea(b, "  ");
+    }
+    EXPECT_EQ(superficie, "abrir Carger el Archivo HEX o OBJ para Programar\n"
+                          "guardar Guardar el Archivo leido\n"
+                          "leer Leer del Circuito Integrado\n"
+                          "borrar Borrar el contenido del Dispositivo\n"
+                          "grabar Programar el dispositivo\n"
+                          "verificar Verificar el dispositivo\n"
+                          "edit Editar  el programa\n"
+                          "editado Editar  el programa (disabled)\n"
+                          "menuarchivo &Archivo\n"
+                          "  opcionabrir &Abrir Ctrl+A\n  opcionguardar &Guardar Ctrl+G\n"
+                          "  lineaseparadora1 -\n  Opcionsalir &Salir Ctrl+X\n"
+                          "menueditor &Edicion\n"
+                          "  opcioneditar &Editar Ctrl+E\n  opcionlimpiar &Limpiar Ctrl+L\n"
+                          "menuver &Ver\n"
+                          "  opcionel_circuito El_circuito\n  a -\n  opcionplaca_arriba Placa_Arriba\n"
+                          "  opcionplaca_abajo Placa_Abajo\n  b -\n  opcionprograma Programa\n"
+                          "menudispositivo &Dispositivo\n"
+                          "  opcionseleccionar &Seleccionar Ctrl+S\n  opcioinformacion &Informacion Ctrl+I\n"
+                          "  lineaseparadora2 -\n  opcionleer Leer\n  opcionborrar Borrar\n"
+                          "  opcionverificar Verificar\n  opciongravar Gravar\n"
+                          "menuprogramador &Programador\n  opcioncomunicacion Provar/Comunicacion\n"
+                          "menuskin &Skin\n"
+                          "  MNUCamb B-Studio\n  MNUCamb Galaxy\n  MNUCamb Green\n  MNUCamb Mac\n"
+                          "  MNUCamb Media\n  MNUCamb Metallic\n  MNUCamb Paper\n  MNUCamb TopSecret\n"
+                          "  MNUCamb Web-II\n  MNUCamb winaqua\n  MNUCamb Zhelezo\n"
+                          "opcioniraweb Ir a WEB\n"
+                          "menuayuda Ay&uda\n"
+                          "  opcpion_como_grabar Como_Grabar\n  opcion_como_leer Como_Leer\n"
+                          "  opcion_como_editar Como_Editar\n"
+                          "opcionacercade Acerca de\n");
+}
+
 TEST_F(SuperficieTest, EachButtonAndItsMenuEntryGiveTheSameResult)
 {
     const std::string archivo = testing::TempDir() + "superficie.hex";

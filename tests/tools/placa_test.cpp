@@ -1,5 +1,6 @@
 #include "emulador.h"
 #include "imagen.h"
+#include "ordencli.h"
 #include "placa.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +16,9 @@
 namespace {
 
 using eeprog::prueba::Emulador;
+using eeprog::prueba::correrprograma;
 using namespace std::string_literals;
+using namespace std::chrono_literals;
 
 // Each session is opened anew and gets its bytes one at a time; a silent byte adds nothing
 // to the replies, and a session with no bytes stands for the line's silence. A frame is its
@@ -132,12 +135,45 @@ TEST(EeprogPlaca, ServesSessionsDumpsTheChipOnExitAndRefusesBadOptions)
     EXPECT_EQ(std::string(chip.begin(), chip.begin() + 3) + std::string(chip.begin() + 0x10, chip.begin() + 0x14),
               "xy\xFF\r\x11\0\xFF"s);
     std::filesystem::remove_all(carpeta);
-    EXPECT_EQ(Emulador({"--nada"}).fin(), 2);
-    EXPECT_EQ(Emulador({"--eco-erroneo", "0"}).fin(), 2);
-    EXPECT_EQ(Emulador({"sobra"}).fin(), 2);
-    EXPECT_EQ(Emulador({"--imagen", "/nohay/imagen.bin"}).fin(), 1);
-    EXPECT_EQ(Emulador({"--imagen", testing::TempDir()}).fin(), 1); // a folder opens, but reads fail
-    EXPECT_EQ(Emulador({"--volcado", "/nohay/volcado.bin"}).terminar(), 1);
+}
+
+// What a board program cannot take ends it with a line that says why: at once for its words
+// and files, when it is told to end for a dump or a state it cannot write.
+TEST(EeprogPlaca, WhatItCannotTakeEndsItWithALineSayingWhy)
+{
+    const std::string carpeta = testing::TempDir();
+    std::ofstream(carpeta + "texto.elf") << "no soy un ELF";
+    const struct {
+        std::string programa;
+        std::vector<std::string> palabras;
+        int estado;
+        std::string linea;
+    } filas[] = {
+        {EEPROG_PLACA, {"--nada"}, 2, "eeprog-placa: opción no válida o sin su valor: --nada"},
+        {EEPROG_PLACA, {"--imagen"}, 2, "eeprog-placa: opción no válida o sin su valor: --imagen"},
+        {EEPROG_PLACA, {"--eco-erroneo", "0"}, 2, "eeprog-placa: --eco-erroneo pide un número mayor que 0: 0"},
+        {EEPROG_PLACA, {"--ritmo", "sobra"}, 2, "eeprog-placa: sobra el argumento sobra"},
+        {EEPROG_PLACA, {"--imagen", "/nohay/i.bin"}, 1, "eeprog-placa: no se puede leer la imagen /nohay/i.bin"},
+        {EEPROG_PLACA, {"--imagen", carpeta}, 1, "eeprog-placa: no se puede leer la imagen " + carpeta},
+        {EEPROG_PLACA, {"--volcado", "/nohay/v.bin"}, 1, "eeprog-placa: no se puede escribir el volcado /nohay/v.bin"},
+        {EEPROG_PLACA, {"--estado", "/nohay/e"}, 1, "eeprog-placa: no se puede escribir el estado /nohay/e"},
+        {EEPROG_SIMPLACA, {"--ciclo", "0"}, 2, "eeprog-simplaca: --ciclo pide microsegundos, de 1 a 1000000: 0"},
+        {EEPROG_SIMPLACA, {"--ruido", "1x"}, 2, "eeprog-simplaca: --ruido pide un número mayor que 0: 1x"},
+        {EEPROG_SIMPLACA, {"--firmware", "/nohay/f.elf"}, 1, "eeprog-simplaca: no se puede leer el firmware /nohay/f.elf"},
+        {EEPROG_SIMPLACA, {"--firmware", carpeta + "texto.elf"}, 1,
+         "eeprog-simplaca: el firmware " + carpeta + "texto.elf no es un ELF de AVR"},
+        {EEPROG_SIMPLACA, {"--faltas", "/nohay/f"}, 1, "eeprog-simplaca: no se pueden escribir las faltas en /nohay/f"},
+    };
+    for (auto fila : filas) {
+        if (fila.programa.empty())
+            continue;
+        const std::string& opcion = fila.palabras[0];
+        const bool corre = opcion == "--volcado" || opcion == "--estado" || opcion == "--faltas";
+        fila.palabras.insert(fila.palabras.begin(), fila.programa);
+        const auto corrida = correrprograma(fila.palabras, carpeta, corre ? 500ms : 0ms, SIGTERM);
+        EXPECT_EQ(corrida.estado, fila.estado) << fila.linea;
+        EXPECT_EQ(corrida.errores.substr(0, corrida.errores.find('\n')), fila.linea);
+    }
 }
 
 // --help, the name a command-line user tries first, gives the usage as --ayuda does: on
