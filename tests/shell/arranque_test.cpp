@@ -56,4 +56,28 @@ TEST_F(ArranqueTest, AnOpenAboutBoxOutlivesTheMainWindowAndTheRunEndsWithIt)
     EXPECT_TRUE(cajaenpie);
 }
 
+// The words of both small windows, in the order they were laid out.
+TEST_F(ArranqueTest, TheSplashAndTheAboutBoxSayTheirTexts)
+{
+    auto textos = [](const QWidget* ventana) {
+        QStringList todos{ventana->windowTitle()};
+        for (const QWidget* control : ventana->findChildren<QWidget*>())
+            if (auto* boton = qobject_cast<const QPushButton*>(control))
+                todos << boton->text();
+            else if (auto* etiqueta = qobject_cast<const QLabel*>(control))
+                todos << etiqueta->text();
+        return todos.join('|').toStdString();
+    };
+    EXPECT_EQ(textos(splash), "|Programador de Memoria EEPROM AT28C64B |Cargando Espere..........");
+    QTest::keyClick(splash, Qt::Key_A);
+    programa.Form1()->opcionacercade_Click();
+    const std::string acerca = textos(programa.Form1()->frmAbout());
+    EXPECT_EQ(acerca.substr(0, acerca.rfind('|')),
+              "Acerca del Programador de Varnimo|Aceptar|Ir a Web|Programador de Memorias EEPROM AT28C64B|Vercion 2.0|"
+              "Consulte en ayuda... le mostrara un tutorial grafico muy ameno" + std::string(27, ' ') +
+                  "Consulte Ver... elija Circuito o programa le mostrara el circuito a armar" + std::string(16, ' ') +
+                  "Consulte mi pagina Web para cualquier duda o mandame un correo electronico");
+    EXPECT_NE(acerca.find("Varnimo", acerca.rfind('|')), std::string::npos) << "the notice names the author";
+}
+
 } // namespace eeprog::prueba
