@@ -1,0 +1,69 @@
+#include "cli/opciones.h"
+
+#include <gtest/gtest.h>
+
+namespace eeprog {
+namespace {
+
+// The words of a command line, as the run reads them: the order and its settings, or the
+// exit status and the line for the terminal.
+std::string interpretado(std::vector<std::string> palabras)
+{
+    palabras.insert(palabras.begin(), "eeprog-cli");
+    std::vector<char*> argv;
+    for (std::string& palabra : palabras)
+        argv.push_back(palabra.data());
+    const auto resultado = interpretar(static_cast<int>(argv.size()), argv.data());
+    if (const auto* respuesta = std::get_if<Respuesta>(&resultado))
+        return std::to_string(respuesta->estado) + ' ' + respuesta->texto;
+    const Opciones& o = std::get<Opciones>(resultado);
+    return "-> orden " + std::to_string(static_cast<int>(o.orden)) + " [" + o.archivo + "] -o " + o.salida + " en [" +
+           o.puerto + "] formato " + std::to_string(static_cast<int>(o.formato)) + (o.verificar ? " --verificar" : "") +
+           (o.comoventana ? " --como-ventana" : "") + (o.silencioso ? " -q" : "");
+}
+
+TEST(Opciones, EachOrderTakesItsOwnSettingsAndWrongUseSaysWhatIsWrong)
+{
+    const std::pair<std::vector<std::string>, std::string> filas[] = {
+        {{"--puerto", "/dev/ttyUSB0", "-q", "grabar", "x.hex", "--verificar"},
+         "-> orden 2 [x.hex] -o - en [/dev/ttyUSB0] formato 0 --verificar -q"},
+        {{"leer", "-o", "c.bin", "--formato", "bin"}, "-> orden 1 [] -o c.bin en [] formato 2"},
+        {{"--formato", "hex", "leer", "--salida", "c"}, "-> orden 1 [] -o c en [] formato 1"},
+        {{"--como-ventana", "verificar", "x.s19", "--silencioso"}, "-> orden 3 [x.s19] -o - en [] formato 0 --como-ventana -q"},
+        {{"comprobar"}, "-> orden 0 [] -o - en [] formato 0"},
+        {{"borrar"}, "-> orden 4 [] -o - en [] formato 0"},
+        {{"vacio"}, "-> orden 5 [] -o - en [] formato 0"},
+        {{"desproteger"}, "-> orden 6 [] -o - en [] formato 0"},
+        {{"proteger"}, "-> orden 7 [] -o - en [] formato 0"},
+        {{}, "falta la orden"},
+        {{"programar"}, "orden desconocida: programar"},
+        {{"verificar"}, "falta el archivo de verificar"},
+        {{"leer", "x"}, "sobra el argumento x"},
+        {{"--formato", "txt", "leer"}, "--formato es hex o bin, no txt"},
+        {{"leer", "--puerto"}, "falta el valor de --puerto"},
+        {{"-x", "leer"}, "opción desconocida: -x"},
+        {{"grabar", "x.hex", "-o", "y"}, "-o solo va con leer"},
+        {{"verificar", "x.hex", "--verificar"}, "--verificar solo va con grabar"},
+        {{"leer", "--como-ventana"}, "--como-ventana solo va con grabar y verificar"},
+        {{"grabar", "x", "--como-ventana", "--formato", "bin"}, "--como-ventana lee Intel HEX y S-record, no imágenes binarias"},
+        {{"leer", "-o", ""}, "-o pide un nombre de archivo"},
+    };
+    for (const auto& [palabras, esperado] : filas) {
+        const std::string dicho = esperado.starts_with("-> ")
+                                      ? esperado
+                                      : "2 eeprog-cli: " + esperado + " (eeprog-cli --ayuda da el uso)\n";
+        EXPECT_EQ(interpretado(palabras), dicho);
+    }
+    EXPECT_EQ(interpretado({"leer", "--version"}), "0 eeprog-cli 2.0\n");
+    EXPECT_EQ(interpretado({"grabar", "-h"}).rfind("0 Uso: eeprog-cli", 0), 0u);
+}
+
+TEST(Opciones, AFileIsARawImageByItsFormatOrElseByItsName)
+{
+    EXPECT_TRUE(esbinario("x.bin", Formato::segunnombre) && esbinario("x.hex", Formato::bin));
+    EXPECT_FALSE(esbinario("x.hex", Formato::segunnombre) || esbinario("bin", Formato::segunnombre) ||
+                 esbinario("x.bin", Formato::hex));
+}
+
+} // namespace
+} // namespace eeprog
