@@ -29,7 +29,8 @@ TEST(Opciones, EachOrderTakesItsOwnSettingsAndWrongUseSaysWhatIsWrong)
          "-> orden 2 [x.hex] -o - en [/dev/ttyUSB0] formato 0 --verificar -q"},
         {{"leer", "-o", "c.bin", "--formato", "bin"}, "-> orden 1 [] -o c.bin en [] formato 2"},
         {{"--formato", "hex", "leer", "--salida", "c"}, "-> orden 1 [] -o c en [] formato 1"},
-        {{"--como-ventana", "verificar", "x.s19", "--silencioso"}, "-> orden 3 [x.s19] -o - en [] formato 0 --como-ventana -q"},
+        {{"--como-ventana", "verificar", "x.s19", "--silencioso"},
+         "-> orden 3 [x.s19] -o - en [] formato 0 --como-ventana -q"},
         {{"comprobar"}, "-> orden 0 [] -o - en [] formato 0"},
         {{"borrar"}, "-> orden 4 [] -o - en [] formato 0"},
         {{"vacio"}, "-> orden 5 [] -o - en [] formato 0"},
@@ -45,13 +46,13 @@ TEST(Opciones, EachOrderTakesItsOwnSettingsAndWrongUseSaysWhatIsWrong)
         {{"grabar", "x.hex", "-o", "y"}, "-o solo va con leer"},
         {{"verificar", "x.hex", "--verificar"}, "--verificar solo va con grabar"},
         {{"leer", "--como-ventana"}, "--como-ventana solo va con grabar y verificar"},
-        {{"grabar", "x", "--como-ventana", "--formato", "bin"}, "--como-ventana lee Intel HEX y S-record, no imágenes binarias"},
+        {{"grabar", "x", "--como-ventana", "--formato", "bin"},
+         "--como-ventana lee Intel HEX y S-record, no imágenes binarias"},
         {{"leer", "-o", ""}, "-o pide un nombre de archivo"},
     };
     for (const auto& [palabras, esperado] : filas) {
-        const std::string dicho = esperado.starts_with("-> ")
-                                      ? esperado
-                                      : "2 eeprog-cli: " + esperado + " (eeprog-cli --ayuda da el uso)\n";
+        const std::string dicho =
+            esperado.starts_with("-> ") ? esperado : "2 eeprog-cli: " + esperado + " (eeprog-cli --ayuda da el uso)\n";
         EXPECT_EQ(interpretado(palabras), dicho);
     }
     EXPECT_EQ(interpretado({"leer", "--version"}), "0 eeprog-cli 2.0\n");

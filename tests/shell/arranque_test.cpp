@@ -74,9 +74,9 @@ TEST_F(ArranqueTest, TheSplashAndTheAboutBoxSayTheirTexts)
     const std::string acerca = textos(programa.Form1()->frmAbout());
     EXPECT_EQ(acerca.substr(0, acerca.rfind('|')),
               "Acerca del Programador de Varnimo|Aceptar|Ir a Web|Programador de Memorias EEPROM AT28C64B|Vercion 2.0|"
-              "Consulte en ayuda... le mostrara un tutorial grafico muy ameno" + std::string(27, ' ') +
-                  "Consulte Ver... elija Circuito o programa le mostrara el circuito a armar" + std::string(16, ' ') +
-                  "Consulte mi pagina Web para cualquier duda o mandame un correo electronico");
+              "Consulte en ayuda... le mostrara un tutorial grafico muy ameno" +
+                  std::string(27, ' ') + "Consulte Ver... elija Circuito o programa le mostrara el circuito a armar" +
+                  std::string(16, ' ') + "Consulte mi pagina Web para cualquier duda o mandame un correo electronico");
     EXPECT_NE(acerca.find("Varnimo", acerca.rfind('|')), std::string::npos) << "the notice names the author";
 }
 

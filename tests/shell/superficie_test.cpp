@@ -25,50 +25,36 @@ TEST_F(SuperficieTest, TheButtonsAndTheMenuBarOfferEveryCommand)
     std::string superficie;
     for (int boton = 0; boton < 8; ++boton) {
         BotonImagen& b = ventana->boton(boton);
-        superficie += b.objectName().toStdString() + ' ' + b.toolTip().toStdString() +
-                      (b.isEnabled() ? "\n" : " (disabled)\n");
+        superficie +=
+            b.objectName().toStdString() + ": " + b.toolTip().toStdString() + (b.isEnabled() ? "\n" : " (-)\n");
     }
-    auto linea = [&](const QAction* a, const char* sangria) {
-        superficie += sangria + a->objectName().toStdString() + ' ' +
-                      (a->isSeparator() ? std::string("-") : a->text().toStdString()) +
-                      (a->shortcut().isEmpty() ? "" : ' ' + a->shortcut().toString().toStdString()) + '\n';
+    auto entrada = [](const QAction* a) {
+        return a->objectName().toStdString() + ' ' + (a->isSeparator() ? std::string("-") : a->text().toStdString()) +
+               (a->shortcut().isEmpty() ? "" : ' ' + a->shortcut().toString().toStdString());
     };
     for (const QAction* a : ventana->menuBar()->actions()) {
-        linea(a, "");
-        if (a->menu())
-            for (const QAction* b : a->menu()->actions())
-                linea(b, "  ");
+        superficie += entrada(a) + ':';
+        for (const QAction* b : a->menu() ? a->menu()->actions() : QList<QAction*>{})
+            superficie += ' ' + entrada(b) + ',';
+        superficie += '\n';
     }
-    EXPECT_EQ(superficie, "abrir Carger el Archivo HEX o OBJ para Programar\n"
-                          "guardar Guardar el Archivo leido\n"
-                          "leer Leer del Circuito Integrado\n"
-                          "borrar Borrar el contenido del Dispositivo\n"
-                          "grabar Programar el dispositivo\n"
-                          "verificar Verificar el dispositivo\n"
-                          "edit Editar  el programa\n"
-                          "editado Editar  el programa (disabled)\n"
-                          "menuarchivo &Archivo\n"
-                          "  opcionabrir &Abrir Ctrl+A\n  opcionguardar &Guardar Ctrl+G\n"
-                          "  lineaseparadora1 -\n  Opcionsalir &Salir Ctrl+X\n"
-                          "menueditor &Edicion\n"
-                          "  opcioneditar &Editar Ctrl+E\n  opcionlimpiar &Limpiar Ctrl+L\n"
-                          "menuver &Ver\n"
-                          "  opcionel_circuito El_circuito\n  a -\n  opcionplaca_arriba Placa_Arriba\n"
-                          "  opcionplaca_abajo Placa_Abajo\n  b -\n  opcionprograma Programa\n"
-                          "menudispositivo &Dispositivo\n"
-                          "  opcionseleccionar &Seleccionar Ctrl+S\n  opcioinformacion &Informacion Ctrl+I\n"
-                          "  lineaseparadora2 -\n  opcionleer Leer\n  opcionborrar Borrar\n"
-                          "  opcionverificar Verificar\n  opciongravar Gravar\n"
-                          "menuprogramador &Programador\n  opcioncomunicacion Provar/Comunicacion\n"
-                          "menuskin &Skin\n"
-                          "  MNUCamb B-Studio\n  MNUCamb Galaxy\n  MNUCamb Green\n  MNUCamb Mac\n"
-                          "  MNUCamb Media\n  MNUCamb Metallic\n  MNUCamb Paper\n  MNUCamb TopSecret\n"
-                          "  MNUCamb Web-II\n  MNUCamb winaqua\n  MNUCamb Zhelezo\n"
-                          "opcioniraweb Ir a WEB\n"
-                          "menuayuda Ay&uda\n"
-                          "  opcpion_como_grabar Como_Grabar\n  opcion_como_leer Como_Leer\n"
-                          "  opcion_como_editar Como_Editar\n"
-                          "opcionacercade Acerca de\n");
+    EXPECT_EQ(
+        superficie,
+        "abrir: Carger el Archivo HEX o OBJ para Programar\nguardar: Guardar el Archivo leido\n"
+        "leer: Leer del Circuito Integrado\nborrar: Borrar el contenido del Dispositivo\n"
+        "grabar: Programar el dispositivo\nverificar: Verificar el dispositivo\n"
+        "edit: Editar  el programa\neditado: Editar  el programa (-)\n"
+        "menuarchivo &Archivo: opcionabrir &Abrir Ctrl+A, opcionguardar &Guardar Ctrl+G, lineaseparadora1 -, "
+        "Opcionsalir &Salir Ctrl+X,\nmenueditor &Edicion: opcioneditar &Editar Ctrl+E, opcionlimpiar &Limpiar Ctrl+L,\n"
+        "menuver &Ver: opcionel_circuito El_circuito, a -, opcionplaca_arriba Placa_Arriba, "
+        "opcionplaca_abajo Placa_Abajo, b -, opcionprograma Programa,\n"
+        "menudispositivo &Dispositivo: opcionseleccionar &Seleccionar Ctrl+S, opcioinformacion &Informacion Ctrl+I, "
+        "lineaseparadora2 -, opcionleer Leer, opcionborrar Borrar, opcionverificar Verificar, opciongravar Gravar,\n"
+        "menuprogramador &Programador: opcioncomunicacion Provar/Comunicacion,\nmenuskin &Skin: MNUCamb B-Studio, "
+        "MNUCamb Galaxy, MNUCamb Green, MNUCamb Mac, MNUCamb Media, MNUCamb Metallic, MNUCamb Paper, "
+        "MNUCamb TopSecret, MNUCamb Web-II, MNUCamb winaqua, MNUCamb Zhelezo,\nopcioniraweb Ir a WEB:\n"
+        "menuayuda Ay&uda: opcpion_como_grabar Como_Grabar, opcion_como_leer Como_Leer, "
+        "opcion_como_editar Como_Editar,\nopcionacercade Acerca de:\n");
 }
 
 TEST_F(SuperficieTest, EachButtonAndItsMenuEntryGiveTheSameResult)
