@@ -94,13 +94,15 @@ TEST_F(SuperficieTest, TheAboutBoxLoadsOnceAndClosesByAceptarEnterOrEsc)
     }
 }
 
-TEST_F(SuperficieTest, AssistiveTechnologyPressesAButton)
+TEST_F(SuperficieTest, AssistiveTechnologyPressesAButtonWhichThenLooksAsBefore)
 {
     QAccessibleInterface* leer = QAccessible::queryAccessibleInterface(&ventana->boton(2));
     ASSERT_TRUE(leer && leer->actionInterface());
     EXPECT_EQ(leer->text(QAccessible::Name), "LEER");
     leer->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_NE(ventana->txtinforme().texto().find("... Lectura Concluida!!!"), std::string::npos);
+    const BotonImagen& boton = ventana->boton(2); // flat again, with its thin border
+    EXPECT_EQ(std::pair(boton.frameStyle(), boton.lineWidth()), std::pair(QFrame::Box | QFrame::Plain, 1));
 }
 
 } // namespace eeprog::prueba
