@@ -6,9 +6,14 @@ namespace eeprog::prueba {
 class VentanaTest : public VentanaPrueba {};
 
 // The bar never shows past its ends, and with nothing to count it shows empty, not busy.
+// The log and the buttons take the start skin's background; the log's text stays black.
 TEST_F(VentanaTest, OpensWithItsTitleAndABarThatStaysWithinItsEnds)
 {
     EXPECT_EQ(ventana->windowTitle(), "Programador de Memorias EEPROM AT28c64b       por       Varnimo");
+    const QPalette log = ventana->txtinforme().palette(); // in the start skin's background, as the buttons
+    EXPECT_EQ(std::tuple(log.color(QPalette::Base), log.color(QPalette::Text),
+                         ventana->boton(0).palette().color(QPalette::Window)),
+              std::tuple(QColor(221, 247, 224), QColor(0, 0, 0), QColor(221, 247, 224)));
     Barra& barra = ventana->ProgressBar1();
     barra.maximo(512), barra.valor(600);
     EXPECT_EQ(barra.value(), 512);
