@@ -10,7 +10,7 @@ class VentanaTest : public VentanaPrueba {};
 TEST_F(VentanaTest, OpensWithItsTitleAndABarThatStaysWithinItsEnds)
 {
     EXPECT_EQ(ventana->windowTitle(), "Programador de Memorias EEPROM AT28c64b       por       Varnimo");
-    const QPalette log = ventana->txtinforme().palette(); // in the start skin's background, as the buttons
+    const QPalette log = ventana->txtinforme().palette();
     EXPECT_EQ(std::tuple(log.color(QPalette::Base), log.color(QPalette::Text),
                          ventana->boton(0).palette().color(QPalette::Window)),
               std::tuple(QColor(221, 247, 224), QColor(0, 0, 0), QColor(221, 247, 224)));
