@@ -1,4 +1,7 @@
 #include "plataforma/informe.h"
+#include "shell/qt/dialogocomun.h"
+
+#include <fstream>
 #include "ventanaprueba.h"
 
 namespace eeprog::prueba {
@@ -126,6 +129,35 @@ TEST_F(VentanaTest, CellsAreDrawnWhereTheGridPutsThem)
     EXPECT_EQ(imagen.pixelColor(celda.center() + QPoint(0, 2)), QColor(255, 0, 0));
     EXPECT_EQ(imagen.pixelColor(celda.right(), celda.center().y()), QColor(0, 0, 0));
     EXPECT_EQ(imagen.pixelColor(celda.center().x(), celda.bottom()), QColor(0, 0, 0));
+}
+
+// The desktop's own file dialog, as a user answers it: it opens on the entry and the file
+// asked for, and gives back the file chosen, its bare name and the entry it was chosen under.
+TEST_F(VentanaTest, TheFileDialogOpensAsAskedAndGivesBackTheChoice)
+{
+    std::ofstream(testing::TempDir() + "elegido.obj") << "S9030000FC\n";
+    DialogoComun comun;
+    comun.Filter = "Archivos tipo OBJETO|*.obj|Archivos tipo HEXADECIMAL|*.hex", comun.FilterIndex = 2;
+    comun.FileName = testing::TempDir() + "nombre.hex";
+    QStringList visto;
+    auto responder = [&](bool aceptar) {
+        auto* d = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        visto = d->nameFilters() << d->selectedNameFilter() << d->selectedFiles().value(0).section('/', -1);
+        d->selectNameFilter(d->nameFilters().value(0));
+        d->selectFile(QString::fromStdString(testing::TempDir() + "elegido.obj"));
+        aceptar ? static_cast<QDialog*>(d)->accept() : d->reject();
+    };
+    QTimer::singleShot(0, [&] { responder(true); });
+    EXPECT_TRUE(comun.ShowOpen());
+    EXPECT_EQ(visto.join('|'), "Archivos tipo OBJETO (*.obj)|Archivos tipo HEXADECIMAL (*.hex)|"
+                               "Archivos tipo HEXADECIMAL (*.hex)|nombre.hex");
+    EXPECT_EQ(std::tuple(comun.FileName, comun.FileTitle, comun.FilterIndex),
+              std::tuple(testing::TempDir() + "elegido.obj", "elegido.obj", 1));
+    comun.FilterIndex = 3; // past the entries: the dialog opens on the first
+    QTimer::singleShot(0, [&] { responder(false); });
+    EXPECT_FALSE(comun.ShowSave());
+    EXPECT_EQ(visto.value(2), "Archivos tipo OBJETO (*.obj)");
+    EXPECT_EQ(comun.FileName, testing::TempDir() + "elegido.obj") << "a cancelled dialog changes nothing";
 }
 
 } // namespace eeprog::prueba
