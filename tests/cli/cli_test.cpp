@@ -280,15 +280,6 @@ TEST_F(OrdenCli, AnInterruptedOrBrokenReadLeavesNoFileAndClosesThePort)
     EXPECT_FALSE(std::filesystem::exists(carpeta + "/chip.hex"));
 }
 
-// --help, the name a command-line user tries first, gives the usage as --ayuda does.
-TEST_F(OrdenCli, HelpGivesTheUsageOnStandardOutput)
-{
-    const Corrida corrida = correr({"--help"});
-    EXPECT_EQ(corrida.estado, 0);
-    EXPECT_EQ(corrida.salida.rfind("Uso: eeprog-cli [OPCIONES] ORDEN [ARCHIVO]\n", 0), 0u) << corrida.salida;
-    EXPECT_EQ(corrida.errores, "");
-}
-
 // What goes wrong before the board is reached sends nothing and writes nothing, and says so
 // in one line; a mute board hears the check and nothing more.
 TEST_F(OrdenCli, WrongInputOrNoBoardEndsInOneLineAndSendsNothing)

@@ -20,7 +20,6 @@ TEST(Entrada, AFileGivesItsFramesOrALineNamingItAndWhy)
     } filas[] = {
         {"v.s19", "S1050100AABB8E\n", true, "2 1 0 0 170 187 /"},
         {"v.hex", ":02010000AABB98\n", true, "2 1 0 0 170 187 /"},
-        {"e.bin", "\x01\x02", false, "2 0 0 0 1 2 /"},
         {"v.txt", "hola", true, "v.txt: la ventana solo abre archivos que empiezan por ':' o 'S'"},
         {"f.hex", ":00000001FF\n", true, "f.hex: la ventana no halla ningún registro en el archivo"},
         {"m.hex", "\n-\n", false, "m.hex, línea 2: "},

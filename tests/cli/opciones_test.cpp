@@ -56,7 +56,7 @@ TEST(Opciones, EachOrderTakesItsOwnSettingsAndWrongUseSaysWhatIsWrong)
         EXPECT_EQ(interpretado(palabras), dicho);
     }
     EXPECT_EQ(interpretado({"leer", "--version"}), "0 eeprog-cli 2.0\n");
-    EXPECT_EQ(interpretado({"grabar", "-h"}).rfind("0 Uso: eeprog-cli", 0), 0u);
+    EXPECT_EQ(interpretado({"grabar", "--help"}).rfind("0 Uso: eeprog-cli", 0), 0u);
 }
 
 TEST(Opciones, AFileIsARawImageByItsFormatOrElseByItsName)

@@ -153,7 +153,6 @@ TEST(EeprogPlaca, WhatItCannotTakeEndsItWithALineSayingWhy)
         {EEPROG_PLACA, {"--help"}, 0, "Uso: eeprog-placa [OPCIONES]"},
         {EEPROG_SIMPLACA, {"--help"}, 0, "Uso: eeprog-simplaca [OPCIONES]"},
         {EEPROG_PLACA, {"--nada"}, 2, "eeprog-placa: opción no válida o sin su valor: --nada"},
-        {EEPROG_PLACA, {"--imagen"}, 2, "eeprog-placa: opción no válida o sin su valor: --imagen"},
         {EEPROG_PLACA, {"--eco-erroneo", "0"}, 2, "eeprog-placa: --eco-erroneo pide un número mayor que 0: 0"},
         {EEPROG_PLACA, {"--ritmo", "sobra"}, 2, "eeprog-placa: sobra el argumento sobra"},
         {EEPROG_PLACA, {"--imagen", "/nohay/i.bin"}, 1, "eeprog-placa: no se puede leer la imagen /nohay/i.bin"},
