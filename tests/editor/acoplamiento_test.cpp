@@ -52,7 +52,7 @@ TEST(Rejilla, RaisesEnterCellAndScrollOnlyOnARealChangeAndScrollsBeforeEntering)
     }
 }
 
-// A cell outside the grid reads as empty and takes no text.
+// A cell outside the grid reads as empty and takes no text; a column outside has no width.
 TEST_F(RejillaTest, CellsHoldBytesAndAreFoundMeasuredAndRedrawnFromTheFirstRowInSight)
 {
     int avisos = 0;
@@ -68,6 +68,7 @@ TEST_F(RejillaTest, CellsHoldBytesAndAreFoundMeasuredAndRedrawnFromTheFirstRowIn
     rejilla.Row(30), rejilla.Col(3); // a row out of sight comes into it first
     const std::string fuera = rejilla.TextMatrix(100, 0) + rejilla.TextMatrix(20, 4) + rejilla.TextMatrix(-1, 0);
     EXPECT_EQ(rejilla.TextMatrix(20, 0) + rejilla.Text() + fuera, std::string("\0\xFF", 2));
+    EXPECT_EQ(rejilla.ColWidth(4) + rejilla.ColWidth(-1), 0);
     EXPECT_EQ(std::tuple(rejilla.CellTop(), rejilla.CellLeft(), rejilla.CellWidth()),
               std::tuple(9 * 270, 500 + 960 * 2, 960));
     rejilla.areavisible(1500, 10 * 270), rejilla.mover(Tecla::fin); // too narrow: the columns before scroll away
