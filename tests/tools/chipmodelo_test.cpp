@@ -120,7 +120,9 @@ TEST(ChipModelo, BrokenRulesAreFaults)
          [](ChipModelo& chip) {
              chip.cambiar({.ce = false, .direccion = 0x0123}, despierto);
              chip.cambiar({.ce = false, .oe = false, .direccion = 0x0123}, despierto + 200);
-             return chip.muestrear(despierto + 260) != 0x77;
+             const bool pronto = chip.muestrear(despierto + 260) != 0x77;
+             chip.cambiar({.ce = false, .oe = false, .direccion = 0x0123}, despierto + 300); // the same pins again
+             return pronto && chip.muestrear(despierto + 320) == 0x77;
          }},
         {"ReadBefore150nsAfterTheAddress", 1,
          [](ChipModelo& chip) {
