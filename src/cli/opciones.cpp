@@ -131,7 +131,7 @@ std::variant<Opciones, Respuesta> interpretar(int argc, char* argv[])
     Opciones o;
     bool consalida = false;
     opterr = 0; // getopt's own messages are not in Spanish
-    optind = 1;
+    optind = 0; // not 1: glibc then also forgets a scan an earlier call left in the middle of a word
     for (int clave = 0; (clave = getopt_long(argc, argv, ":o:qh", largas.data(), nullptr)) != -1;) {
         const std::string valor = optarg ? optarg : "";
         switch (clave) {

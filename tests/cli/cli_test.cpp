@@ -179,15 +179,14 @@ TEST_P(OrdenPlaca, ReadingGivesTheImageAndErasingLeavesABlankChip)
     azar(chip, 9);
     chip[0] = 0xFF, chip[1] = 0x12;
     const auto tablero = placa({"--imagen", imagen(chip)});
-    EXPECT_EQ(orden(*tablero, {"comprobar"}).estado, 0);
+    const auto dicho = [&](const char* palabra) { return correr({"--puerto", tablero->ruta(), palabra}).salida; };
+    EXPECT_EQ(dicho("comprobar"), "Programador..... C O N E C T A D O !!!!\n");
     EXPECT_EQ(orden(*tablero, {"leer", "--formato", "bin"}).salida, std::string(chip.begin(), chip.end()));
     const Corrida lleno = orden(*tablero, {"vacio"});
     EXPECT_EQ(lleno.estado, 1);
     EXPECT_EQ(lleno.salida, "El chip no está vacío: Direccion = 0001  Leido = 12\n");
-    for (const char* palabra : {"borrar", "vacio"}) {
-        const Corrida corrida = orden(*tablero, {palabra});
-        EXPECT_EQ(corrida.estado, 0) << palabra << ": " << corrida.errores;
-    }
+    EXPECT_EQ(dicho("borrar"), "8192 bytes grabados\n");
+    EXPECT_EQ(dicho("vacio"), "El chip está vacío: sus 8192 bytes están en FF\n");
     terminar(*tablero);
 }
 
@@ -202,19 +201,23 @@ TEST_P(OrdenPlaca, AProtectedChipIsProgrammedAndKeepsItsProtection)
     EXPECT_EQ(orden(*tablero, {"grabar", "--como-ventana", escribir(":02002000444555\r\n", "de.hex")}).estado, 0);
     terminar(*tablero);
     const std::string chip = leer("volcado.bin");
-    EXPECT_EQ(chip.substr(0x0F, 5) + chip.substr(0x1F, 4), "\xFF" "ABC\xFF\xFF" "DE\xFF");
+    EXPECT_EQ(chip.substr(0x0F, 5) + chip.substr(0x1F, 4), "\xFF"
+                                                           "ABC\xFF\xFF"
+                                                           "DE\xFF");
     EXPECT_EQ(leer("estado"), "protegido\n");
     const struct {
         const char* orden;
         bool protegido;
         const char* estado;
-    } cambios[] = {{"desproteger", true, "desprotegido\n"}, {"proteger", false, "protegido\n"}};
+        const char* dicho;
+    } cambios[] = {{"desproteger", true, "desprotegido\n", "Protección de escritura quitada\n"},
+                   {"proteger", false, "protegido\n", "Protección de escritura puesta\n"}};
     for (const auto& cambio : cambios) {
         std::vector<std::string> opciones{"--estado", carpeta + "/estado"};
         if (cambio.protegido)
             opciones.push_back("--protegido");
         const auto cambiada = placa(opciones);
-        EXPECT_EQ(orden(*cambiada, {cambio.orden}).estado, 0) << cambio.orden;
+        EXPECT_EQ(correr({"--puerto", cambiada->ruta(), cambio.orden}).salida, cambio.dicho);
         terminar(*cambiada);
         EXPECT_EQ(leer("estado"), cambio.estado) << cambio.orden;
     }

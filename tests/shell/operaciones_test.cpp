@@ -72,7 +72,8 @@ TEST_F(Operaciones, EveryOperationRunsThroughTheSerialPortAgainstTheEmulator)
     form->guardar_Click();
     EXPECT_EQ(leerarchivo(carpeta + "/lectura.hex"), lineashex(imagen) + "\r\n");
     std::this_thread::sleep_for(Emulador::cambiodesesion); // the command line reads the same chip
-    EXPECT_EQ(correrorden({"--puerto", emulador.ruta(), "leer", "-o", carpeta + "/cli.hex"}, carpeta).estado, 0);
+    EXPECT_EQ(correrorden({"--puerto", emulador.ruta(), "leer", "-o", carpeta + "/cli.hex"}, carpeta).salida,
+              "8192 bytes leídos en " + carpeta + "/cli.hex\n");
     EXPECT_EQ(leerarchivo(carpeta + "/cli.hex"), leerarchivo(carpeta + "/lectura.hex"));
     const std::string exito = "G R A V A C I O N    E X I T O S A ...!!!";
     EXPECT_THAT(correr(&Form1::grabar_Click), EndsWith("Grabacion Exitosa!!!\r\n"));

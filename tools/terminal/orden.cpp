@@ -12,7 +12,7 @@ bool recorreropciones(const char* programa, int argc, char* argv[], const option
                       const std::function<bool(int clave, const char* valor)>& tomar)
 {
     opterr = 0; // getopt's own messages are not in Spanish
-    optind = 1;
+    optind = 0; // not 1: glibc then also forgets a scan an earlier call left in the middle of a word
     for (int clave = 0; (clave = getopt_long(argc, argv, ":", claves, nullptr)) != -1;) {
         if (!tomar(clave, optarg)) {
             std::cerr << programa << ": opción no válida o sin su valor: " << argv[optind - 1] << '\n';
