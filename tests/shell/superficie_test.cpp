@@ -1,3 +1,4 @@
+#include "shell/qt/twips.h"
 #include "ventanaprueba.h"
 
 #include <fstream>
@@ -25,8 +26,8 @@ TEST_F(SuperficieTest, TheButtonsAndTheMenuBarOfferEveryCommand)
     std::string superficie;
     for (int boton = 0; boton < 8; ++boton) {
         BotonImagen& b = ventana->boton(boton);
-        superficie +=
-            b.objectName().toStdString() + ": " + b.toolTip().toStdString() + (b.isEnabled() ? "\n" : " (-)\n");
+        superficie += b.objectName().toStdString() + ' ' + b.accessibleName().toStdString() + ": " +
+                      b.toolTip().toStdString() + (b.isEnabled() ? "\n" : " (-)\n");
     }
     auto entrada = [](const QAction* a) {
         return a->objectName().toStdString() + ' ' + (a->isSeparator() ? std::string("-") : a->text().toStdString()) +
@@ -40,10 +41,10 @@ TEST_F(SuperficieTest, TheButtonsAndTheMenuBarOfferEveryCommand)
     }
     EXPECT_EQ(
         superficie,
-        "abrir: Carger el Archivo HEX o OBJ para Programar\nguardar: Guardar el Archivo leido\n"
-        "leer: Leer del Circuito Integrado\nborrar: Borrar el contenido del Dispositivo\n"
-        "grabar: Programar el dispositivo\nverificar: Verificar el dispositivo\n"
-        "edit: Editar  el programa\neditado: Editar  el programa (-)\n"
+        "abrir ABRIR: Carger el Archivo HEX o OBJ para Programar\nguardar GUARDAR: Guardar el Archivo leido\n"
+        "leer LEER: Leer del Circuito Integrado\nborrar BORRAR: Borrar el contenido del Dispositivo\n"
+        "grabar GRABAR: Programar el dispositivo\nverificar VERIFICAR: Verificar el dispositivo\n"
+        "edit EDITAR: Editar  el programa\neditado EDITADO: Editar  el programa (-)\n"
         "menuarchivo &Archivo: opcionabrir &Abrir Ctrl+A, opcionguardar &Guardar Ctrl+G, lineaseparadora1 -, "
         "Opcionsalir &Salir Ctrl+X,\nmenueditor &Edicion: opcioneditar &Editar Ctrl+E, opcionlimpiar &Limpiar Ctrl+L,\n"
         "menuver &Ver: opcionel_circuito El_circuito, a -, opcionplaca_arriba Placa_Arriba, "
@@ -75,7 +76,8 @@ TEST_F(SuperficieTest, EachButtonAndItsMenuEntryGiveTheSameResult)
     }
 }
 
-// Not modal; loaded once while it stands open, and only its loading ends edit mode.
+// Not modal, at its fixed place on the screen; loaded once while it stands open, and only
+// its loading ends edit mode.
 TEST_F(SuperficieTest, TheAboutBoxLoadsOnceAndClosesByAceptarEnterOrEsc)
 {
     Form1& form = ventana->logica();
@@ -85,6 +87,7 @@ TEST_F(SuperficieTest, TheAboutBoxLoadsOnceAndClosesByAceptarEnterOrEsc)
         entrada("opcionacercade").trigger();
         QPointer<VentanaAbout> caja = ventana->frmAbout();
         ASSERT_TRUE(caja && caja->isVisible() && !caja->isModal() && !form.edicion().edicionhabilitada);
+        EXPECT_EQ(caja->geometry().topLeft(), QPoint(pixeles(2340), pixeles(1935)));
         form.edit_Click();
         entrada("opcionacercade").trigger();
         EXPECT_TRUE(ventana->frmAbout() == caja && form.edicion().edicionhabilitada);

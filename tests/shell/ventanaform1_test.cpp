@@ -10,6 +10,7 @@ class VentanaTest : public VentanaPrueba {};
 
 // The bar never shows past its ends, and with nothing to count it shows empty, not busy.
 // The log and the buttons take the start skin's background; the log's text stays black.
+// The status bar's panels are told apart by their number.
 TEST_F(VentanaTest, OpensWithItsTitleAndABarThatStaysWithinItsEnds)
 {
     EXPECT_EQ(ventana->windowTitle(), "Programador de Memorias EEPROM AT28c64b       por       Varnimo");
@@ -17,6 +18,10 @@ TEST_F(VentanaTest, OpensWithItsTitleAndABarThatStaysWithinItsEnds)
     EXPECT_EQ(std::tuple(log.color(QPalette::Base), log.color(QPalette::Text),
                          ventana->boton(0).palette().color(QPalette::Window)),
               std::tuple(QColor(221, 247, 224), QColor(0, 0, 0), QColor(221, 247, 224)));
+    QStringList paneles; // for assistive technology, which reads a panel's text as its name
+    for (const QLabel* panel : ventana->StatusBar1().findChildren<QLabel*>())
+        paneles << panel->accessibleDescription();
+    EXPECT_EQ(paneles.join(','), "Panel 1,Panel 2,Panel 3,Panel 4,Panel 5");
     Barra& barra = ventana->ProgressBar1();
     barra.maximo(512), barra.valor(600);
     EXPECT_EQ(barra.value(), 512);
