@@ -281,6 +281,7 @@ TEST_F(OrdenCli, AnInterruptedOrBrokenReadLeavesNoFileAndClosesThePort)
     EXPECT_EQ(corrida.estado, 4);
     EXPECT_EQ(corrida.errores, "eeprog-cli: " + callada.ruta() + ": la placa dejó de responder\n");
     EXPECT_FALSE(std::filesystem::exists(carpeta + "/chip.hex"));
+    EXPECT_EQ(correr({"--puerto", callada.ruta(), "comprobar"}).estado, 0) << "a new session answers again";
 }
 
 // What goes wrong before the board is reached sends nothing and writes nothing, and says so
