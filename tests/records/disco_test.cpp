@@ -85,6 +85,7 @@ TEST_F(Disco, AFailedSaveLeavesTheOldFileWholeAndNoNewOne)
         return escribirarchivo(carpeta + "/b.hex", nuevo) || sobreviejo;
     }));
     EXPECT_EQ(std::pair(leerarchivo(archivo).value_or(""), archivos()), std::pair(viejo, 1L));
+    EXPECT_FALSE(escribirarchivo("/dev/full", nuevo)) << "a device with no room";
 }
 
 TEST_F(Disco, SavingKeepsHardLinksOwnerAndModeAndWritesThroughASymbolicLink)
