@@ -16,7 +16,6 @@ VistaRejilla* rejilla(Rejilla& modelo, VistaRejilla::Letras letras, const QFont&
     vista->setAccessibleName(nombre);
     vista->setFont(fuente);
     vista->setGeometry(lugar);
-    vista->raise();
     return vista;
 }
 

@@ -208,7 +208,8 @@ void VistaRejilla::mouseReleaseEvent(QMouseEvent* evento)
     rejilla_.soltar(fila, columna);
 }
 
-// Keys that do not move the current cell go on to the window, for its menu shortcuts.
+// Keys that do not move the current cell are left to the base class, which passes them on
+// to the window. Menu shortcuts never come here: Qt serves them before any key press.
 void VistaRejilla::keyPressEvent(QKeyEvent* evento)
 {
     if (const std::optional<Tecla> tecla = teclade(*evento))
