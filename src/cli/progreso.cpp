@@ -8,6 +8,8 @@ namespace {
 
 constexpr int anchobarra = 30;
 
+} // namespace
+
 std::string minutos(double segundos)
 {
     const int total = static_cast<int>(segundos + 0.5);
@@ -15,8 +17,6 @@ std::string minutos(double segundos)
     std::snprintf(texto, sizeof texto, "%d:%02d", total / 60, total % 60);
     return texto;
 }
-
-} // namespace
 
 void Progreso::empezar(const std::string& accion, int total)
 {

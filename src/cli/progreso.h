@@ -6,6 +6,9 @@
 
 namespace eeprog {
 
+// A time in minutes and seconds, to the nearest second: "1:05".
+std::string minutos(double segundos);
+
 // The bar an operation draws on a terminal: what it does, bytes done of the total, the rate
 // and the time left. It is redrawn at most ten times a second, so a terminal that is slow to
 // draw never holds the link; a run whose error output is not a terminal gets none of it.

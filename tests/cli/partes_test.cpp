@@ -123,6 +123,7 @@ TEST(Progreso, DrawsOverItsOwnLineAndEndsItOnce)
     std::fclose(terminal);
     const std::string dibujado = std::regex_replace(texto, std::regex("[0-9]+ B/s"), "N B/s");
     std::free(texto);
+    EXPECT_EQ(minutos(0.4) + ' ' + minutos(65.5) + ' ' + minutos(3600), "0:00 1:06 60:00") << "the time left";
     EXPECT_EQ(dibujado, "\rLeyendo     [###############...............]    50/100 bytes  N B/s  quedan -:--\033[K"
                         "\rLeyendo     [##################............]    60/100 bytes  N B/s  quedan -:--\033[K\n");
 }
