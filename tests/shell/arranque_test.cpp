@@ -61,19 +61,20 @@ TEST_F(ArranqueTest, TheSplashAndTheAboutBoxSayTheirTexts)
 {
     auto textos = [](const QWidget* ventana) {
         QStringList todos{ventana->windowTitle()};
-        for (const QWidget* control : ventana->findChildren<QWidget*>()) // labels and buttons
-            todos << control->property("text").toString();
+        for (const QWidget* control : ventana->findChildren<QWidget*>()) // labels, '~' when they wrap, and buttons
+            todos << (control->property("wordWrap").toBool() ? "~" : "") + control->property("text").toString();
         return todos.join('|').toStdString();
     };
     EXPECT_EQ(textos(splash), "|Programador de Memoria EEPROM AT28C64B |Cargando Espere..........");
     QTest::keyClick(splash, Qt::Key_A);
     programa.Form1()->opcionacercade_Click();
     const std::string acerca = textos(programa.Form1()->frmAbout());
-    EXPECT_EQ(acerca.substr(0, acerca.rfind('|')),
+    EXPECT_EQ(acerca.substr(0, acerca.rfind('|') + 3), // the notice is told by its wrap and first letter
               "Acerca del Programador de Varnimo|Aceptar|Ir a Web|Programador de Memorias EEPROM AT28C64B|Vercion 2.0|"
-              "Consulte en ayuda... le mostrara un tutorial grafico muy ameno" +
+              "~Consulte en ayuda... le mostrara un tutorial grafico muy ameno" +
                   std::string(27, ' ') + "Consulte Ver... elija Circuito o programa le mostrara el circuito a armar" +
-                  std::string(16, ' ') + "Consulte mi pagina Web para cualquier duda o mandame un correo electronico");
+                  std::string(16, ' ') +
+                  "Consulte mi pagina Web para cualquier duda o mandame un correo electronico|~T");
 }
 
 } // namespace eeprog::prueba
