@@ -1,7 +1,5 @@
 #include "plataforma/informe.h"
 #include "shell/qt/dialogocomun.h"
-
-#include <fstream>
 #include "ventanaprueba.h"
 
 namespace eeprog::prueba {
@@ -137,7 +135,7 @@ TEST_F(VentanaTest, CellsAreDrawnWhereTheGridPutsThem)
 // asked for, and gives back the file chosen, its bare name and the entry it was chosen under.
 TEST_F(VentanaTest, TheFileDialogOpensAsAskedAndGivesBackTheChoice)
 {
-    std::ofstream(testing::TempDir() + "elegido.obj") << "S9030000FC\n";
+    const std::string elegido = std::string(EEPROG_FUENTES) + "/skins/galaxy.skn";
     DialogoComun comun;
     comun.Filter = "Archivos tipo OBJETO|*.obj|Archivos tipo HEXADECIMAL|*.hex", comun.FilterIndex = 2;
     comun.FileName = testing::TempDir() + "nombre.hex";
@@ -146,20 +144,19 @@ TEST_F(VentanaTest, TheFileDialogOpensAsAskedAndGivesBackTheChoice)
         auto* d = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         visto = d->nameFilters() << d->selectedNameFilter() << d->selectedFiles().value(0).section('/', -1);
         d->selectNameFilter(d->nameFilters().value(0));
-        d->selectFile(QString::fromStdString(testing::TempDir() + "elegido.obj"));
+        d->selectFile(QString::fromStdString(elegido));
         aceptar ? static_cast<QDialog*>(d)->accept() : d->reject();
     };
     QTimer::singleShot(0, [&] { responder(true); });
     EXPECT_TRUE(comun.ShowOpen());
     EXPECT_EQ(visto.join('|'), "Archivos tipo OBJETO (*.obj)|Archivos tipo HEXADECIMAL (*.hex)|"
                                "Archivos tipo HEXADECIMAL (*.hex)|nombre.hex");
-    EXPECT_EQ(std::tuple(comun.FileName, comun.FileTitle, comun.FilterIndex),
-              std::tuple(testing::TempDir() + "elegido.obj", "elegido.obj", 1));
+    EXPECT_EQ(std::tuple(comun.FileName, comun.FileTitle, comun.FilterIndex), std::tuple(elegido, "galaxy.skn", 1));
     comun.FilterIndex = 3; // past the entries: the dialog opens on the first
     QTimer::singleShot(0, [&] { responder(false); });
     EXPECT_FALSE(comun.ShowSave());
     EXPECT_EQ(visto.value(2).toStdString() + ' ' + comun.FileName,
-              "Archivos tipo OBJETO (*.obj) " + testing::TempDir() + "elegido.obj"); // the cancel changed nothing
+              "Archivos tipo OBJETO (*.obj) " + elegido); // the cancel changed nothing
 }
 
 // A skin from the menu dresses the window and its menus in the colours of its file.
