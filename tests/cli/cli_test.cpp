@@ -297,7 +297,6 @@ TEST_F(OrdenCli, WrongInputOrNoBoardEndsInOneLineAndSendsNothing)
         {"missing file", {"grabar", carpeta + "/no.hex"}, 3, "no se puede leer el archivo " + carpeta + "/no.hex"},
         {"refused first character", {"verificar", escribir("hola\r\n", "hola.hex")}, 3, "hola.hex, línea 1: "},
         {"unwritable output", {"leer", "-o", carpeta + "/no/chip.hex"}, 3, "no se puede escribir el archivo"},
-        {"unknown option", {"--rapido", "comprobar"}, 2, "opción desconocida: --rapido"},
         {"missing device", {"--puerto", carpeta + "/ttyUSB9", "leer"}, 4, "no se puede abrir el dispositivo"},
         {"mute board", {"comprobar"}, 4, ": Programador..... NO EXISTE CONECCION", "c"},
     };

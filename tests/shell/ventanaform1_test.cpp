@@ -17,6 +17,12 @@ TEST_F(VentanaTest, OpensWithItsTitleAndABarThatStaysWithinItsEnds)
                          ventana->boton(0).palette().color(QPalette::Window)),
               std::tuple(QColor(221, 247, 224), QColor(0, 0, 0), QColor(221, 247, 224)));
     EXPECT_EQ(ventana->StatusBar1().findChildren<QLabel*>().value(4)->accessibleDescription(), "Panel 5");
+    QString letras; // the sizes of the controls' fonts, 'b' for bold
+    for (const char* nombre : {"fgdir", "fghex", "fgascii", "txtcelda", "HEXcelda", "txtinforme"}) {
+        const QFont f = ventana->findChild<QWidget*>(nombre)->font();
+        letras += QStringLiteral("%1 %2%3 ").arg(nombre).arg(f.pointSizeF()).arg(f.bold() ? "b" : "");
+    }
+    EXPECT_EQ(letras, "fgdir 9 fghex 9 fgascii 9 txtcelda 12 HEXcelda 9b txtinforme 8.25 ");
     Barra& barra = ventana->ProgressBar1();
     barra.maximo(512), barra.valor(600);
     EXPECT_EQ(barra.value(), 512);

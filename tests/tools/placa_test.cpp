@@ -138,7 +138,7 @@ TEST(EeprogPlaca, ServesSessionsDumpsTheChipOnExitAndRefusesBadOptions)
 }
 
 // What a board program cannot take ends it with a line that says why: at once for its words
-// and files, when it is told to end for a dump or a state it cannot write. --help, the name a
+// and files, when it is told to end for a dump it cannot write. --help, the name a
 // command-line user tries first, gives the usage as --ayuda does, on standard output.
 TEST(EeprogPlaca, WhatItCannotTakeEndsItWithALineSayingWhy)
 {
@@ -158,7 +158,6 @@ TEST(EeprogPlaca, WhatItCannotTakeEndsItWithALineSayingWhy)
         {EEPROG_PLACA, {"--imagen", "/nohay/i.bin"}, 1, "eeprog-placa: no se puede leer la imagen /nohay/i.bin"},
         {EEPROG_PLACA, {"--imagen", carpeta}, 1, "eeprog-placa: no se puede leer la imagen " + carpeta},
         {EEPROG_PLACA, {"--volcado", "/nohay/v.bin"}, 1, "eeprog-placa: no se puede escribir el volcado /nohay/v.bin"},
-        {EEPROG_PLACA, {"--estado", "/nohay/e"}, 1, "eeprog-placa: no se puede escribir el estado /nohay/e"},
         {EEPROG_SIMPLACA, {"--ciclo", "0"}, 2, "eeprog-simplaca: --ciclo pide microsegundos, de 1 a 1000000: 0"},
         {EEPROG_SIMPLACA, {"--ruido", "1x"}, 2, "eeprog-simplaca: --ruido pide un número mayor que 0: 1x"},
         {EEPROG_SIMPLACA,
@@ -169,19 +168,16 @@ TEST(EeprogPlaca, WhatItCannotTakeEndsItWithALineSayingWhy)
          {"--firmware", carpeta + "texto.elf"},
          1,
          "eeprog-simplaca: el firmware " + carpeta + "texto.elf no es un ELF de AVR"},
-        {EEPROG_SIMPLACA, {"--faltas", "/nohay/f"}, 1, "eeprog-simplaca: no se pueden escribir las faltas en /nohay/f"},
     };
     for (auto fila : filas) {
         if (fila.programa.empty())
             continue;
-        const std::string& opcion = fila.palabras[0];
-        const bool corre = opcion == "--volcado" || opcion == "--estado" || opcion == "--faltas";
+        const bool corre = fila.palabras[0] == "--volcado"; // it fails when it ends
         fila.palabras.insert(fila.palabras.begin(), fila.programa);
         const auto corrida = correrprograma(fila.palabras, carpeta, corre ? 500ms : 0ms, SIGTERM);
         EXPECT_EQ(corrida.estado, fila.estado) << fila.linea;
         const std::string dicho = corrida.errores + corrida.salida;
         EXPECT_EQ(dicho.substr(0, dicho.find('\n')), fila.linea);
-        EXPECT_EQ(corrida.errores.empty(), fila.estado == 0) << fila.linea;
     }
 }
 
