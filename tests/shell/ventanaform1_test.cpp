@@ -13,9 +13,10 @@ TEST_F(VentanaTest, OpensWithItsTitleAndABarThatStaysWithinItsEnds)
 {
     EXPECT_EQ(ventana->windowTitle(), "Programador de Memorias EEPROM AT28c64b       por       Varnimo");
     const QPalette log = ventana->txtinforme().palette();
-    EXPECT_EQ(std::tuple(log.color(QPalette::Base), log.color(QPalette::Text),
-                         ventana->boton(0).palette().color(QPalette::Window)),
-              std::tuple(QColor(221, 247, 224), QColor(0, 0, 0), QColor(221, 247, 224)));
+    QStringList fondos{log.color(QPalette::Base).name(), log.color(QPalette::Text).name()};
+    for (int boton = 0; boton < 8; ++boton)
+        fondos << ventana->boton(boton).palette().color(QPalette::Window).name();
+    EXPECT_EQ(fondos.join(' '), "#ddf7e0 #000000" + QString(" #ddf7e0").repeated(8));
     EXPECT_EQ(ventana->StatusBar1().findChildren<QLabel*>().value(4)->accessibleDescription(), "Panel 5");
     QString letras; // the sizes of the controls' fonts, 'b' for bold
     for (const char* nombre : {"fgdir", "fghex", "fgascii", "txtcelda", "HEXcelda", "txtinforme"}) {
