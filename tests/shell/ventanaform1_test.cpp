@@ -7,16 +7,10 @@ namespace eeprog::prueba {
 class VentanaTest : public VentanaPrueba {};
 
 // The bar never shows past its ends, and with nothing to count it shows empty, not busy.
-// The log and the buttons take the start skin's background; the log's text stays black.
 // Assistive technology tells the status bar's panels apart by their number.
 TEST_F(VentanaTest, OpensWithItsTitleAndABarThatStaysWithinItsEnds)
 {
     EXPECT_EQ(ventana->windowTitle(), "Programador de Memorias EEPROM AT28c64b       por       Varnimo");
-    const QPalette log = ventana->txtinforme().palette();
-    QStringList fondos{log.color(QPalette::Base).name(), log.color(QPalette::Text).name()};
-    for (int boton = 0; boton < 8; ++boton)
-        fondos << ventana->boton(boton).palette().color(QPalette::Window).name();
-    EXPECT_EQ(fondos.join(' '), "#ddf7e0 #000000" + QString(" #ddf7e0").repeated(8));
     EXPECT_EQ(ventana->StatusBar1().findChildren<QLabel*>().value(4)->accessibleDescription(), "Panel 5");
     QString letras; // the sizes of the controls' fonts, 'b' for bold
     for (const char* nombre : {"fgdir", "fghex", "fgascii", "txtcelda", "HEXcelda", "txtinforme"}) {
@@ -166,7 +160,8 @@ TEST_F(VentanaTest, TheFileDialogOpensAsAskedAndGivesBackTheChoice)
               "Archivos tipo OBJETO (*.obj) " + elegido); // the cancel changed nothing
 }
 
-// A skin from the menu dresses the window and its menus in the colours of its file.
+// A skin from the menu dresses the window and its menus in the colours of its file, and gives
+// its "color" to the log, whose text stays black, and to every button.
 TEST_F(VentanaTest, ASkinFromTheMenuDressesTheWindowAndItsMenus)
 {
     ventana->findChildren<QAction*>(QStringLiteral("MNUCamb")).value(1)->trigger(); // skins/galaxy.skn
@@ -179,6 +174,11 @@ TEST_F(VentanaTest, ASkinFromTheMenuDressesTheWindowAndItsMenus)
         EXPECT_EQ(colores.join(' ').toStdString(),
                   "#2b3150 #e8eaf6 #a9b1de #2b3150 #000000 #464f7e #ffffff #7e57c2 #ffffff");
     }
+    const QPalette log = ventana->txtinforme().palette();
+    QStringList fondos{log.color(QPalette::Base).name(), log.color(QPalette::Text).name()};
+    for (int boton = 0; boton < 8; ++boton)
+        fondos << ventana->boton(boton).palette().color(QPalette::Window).name();
+    EXPECT_EQ(fondos.join(' '), "#a9b1de #000000" + QString(" #a9b1de").repeated(8));
 }
 
 } // namespace eeprog::prueba
