@@ -277,6 +277,7 @@ void VentanaForm1::opcionacercade_Click()
 void VentanaForm1::dimensionar()
 {
     const int barra = std::max(StatusBar1_->sizeHint().height(), pixeles(altocliente - arribabarraestado));
+    StatusBar1_->setFixedHeight(barra);
     const int alto = menuBar()->sizeHint().height() + pixeles(arribabarraestado) + barra;
     resize(pixeles(anchocliente), alto);
     if (const QScreen* pantalla = screen())
