@@ -10,8 +10,6 @@ namespace eeprog {
 
 namespace {
 
-constexpr int enter = 13;
-constexpr int escape = 27;
 constexpr int retroceso = 8;
 
 } // namespace
@@ -106,8 +104,9 @@ bool VistaCaja::event(QEvent* evento)
     return QLineEdit::event(evento);
 }
 
-// Enter, Escape and Backspace raise KeyPress too, as keys that make a character; then they
-// do what they do in any box: with the caret at the start, nothing.
+// Enter, Escape and Backspace raise KeyPress too, as keys that make a character. Backspace
+// then does what it does in any box: with the caret at the start, nothing. Enter and Escape
+// do nothing more: the box has no dialog around it to close.
 void VistaCaja::keyPressEvent(QKeyEvent* evento)
 {
     if (evento->matches(QKeySequence::Paste) || evento->matches(QKeySequence::Undo) ||
@@ -124,7 +123,7 @@ void VistaCaja::keyPressEvent(QKeyEvent* evento)
     }
     evento->accept();
     const int tecla = pulsar(*letra);
-    if (tecla == enter || tecla == escape || tecla == retroceso)
+    if (tecla == retroceso)
         QLineEdit::keyPressEvent(evento);
 }
 
