@@ -63,35 +63,39 @@ TEST(ChipModelo, SoftwareDataProtection)
 }
 
 // Each row breaks one of the data sheet's rules, or keeps one, on a chip whose cells hold
-// 0x77; its steps say whether the chip shows what a real one would.
+// 0x77; its steps say whether the chip shows what a real one would, and the faults recorded
+// say when, where and what, as the simulated board's --faltas file gives them.
 TEST(ChipModelo, BrokenRulesAreFaults)
 {
     ChipModelo::Memoria setentaysiete;
     setentaysiete.fill(0x77);
     const struct {
         const char* nombre;
-        std::size_t faltas;
+        const char* faltas; // the faults the chip recorded, one a line
         std::function<bool(ChipModelo&)> pasos;
     } filas[]{
         // Written 0x5A (I/O7 low) with a 1 ms cycle: reads, of any address, show I/O7 high through
         // the 150 us load window and the cycle after it, and the byte from 1.15 ms on.
-        {"DataPollingShowsIO7InvertedUntilTheCycleEnds", 0,
+        {"DataPollingShowsIO7InvertedUntilTheCycleEnds", "",
          [](ChipModelo& chip) {
              return (*leer(chip, cargar(chip, despierto, 0x0123, 0x5A), 0x0123) & 0x80) == 0x80 &&
                     (*leer(chip, despierto + 1'140'000, 0x0200) & 0x80) == 0x80 &&
                     leer(chip, despierto + 1'160'000, 0x0123) == 0x5A;
          }},
-        {"LoadDuringTheCycleIsLost", 1,
+        {"LoadDuringTheCycleIsLost", "5501500 ns: carga de 0x22 en 0x0041 durante el ciclo de escritura; se pierde",
          [](ChipModelo& chip) {
              chip.avanzar(cargar(chip, cargar(chip, despierto, 0x0040, 0x11) + 500'000, 0x0041, 0x22) + 2'000'000);
              return chip.memoria()[0x0041] == 0x77;
          }},
-        {"LatchWithDataLinesUndriven", 1,
+        {"LatchWithDataLinesUndriven",
+         "5000500 ns: dato cargado en 0x0123 con los bits 0xF0 del bus de datos sin conducir; guarda cualquier cosa",
          [](ChipModelo& chip) {
              chip.avanzar(cargar(chip, despierto, 0x0123, 0x5A, 0x0F) + 2'000'000);
              return (chip.memoria()[0x0123] & 0x0F) == 0x0A && chip.memoria()[0x0123] != 0x5A;
          }},
-        {"DataChanged40nsBeforeTheLatch", 1,
+        {"DataChanged40nsBeforeTheLatch",
+         "5000500 ns: dato cargado en 0x0123 con los bits 0x01 cambiados menos de 50 ns antes del flanco que lo "
+         "captura; guarda cualquier cosa",
          [](ChipModelo& chip) {
              chip.cambiar({.ce = false, .direccion = 0x0123, .datos = 0x5A, .conducidos = 0xFF}, despierto);
              chip.cambiar({.ce = false, .we = false, .direccion = 0x0123, .datos = 0x5A, .conducidos = 0xFF},
@@ -102,7 +106,9 @@ TEST(ChipModelo, BrokenRulesAreFaults)
              chip.avanzar(despierto + 2'000'000);
              return true;
          }},
-        {"ReadsWithTheOutputsOffFloat", 2,
+        {"ReadsWithTheOutputsOffFloat",
+         "5000400 ns: lectura del bus de datos en 0x0123 con los bits 0xFF sin conducir por nadie; flotan\n"
+         "5000500 ns: lectura del bus de datos en 0x0123 con los bits 0xFF sin conducir por nadie; flotan",
          [](ChipModelo& chip) {
              leer(chip, despierto, 0x0123);
              const bool dato = chip.muestrear(despierto + 200) == 0x77;
@@ -110,7 +116,9 @@ TEST(ChipModelo, BrokenRulesAreFaults)
              const std::uint8_t una = chip.muestrear(despierto + 400), otra = chip.muestrear(despierto + 500);
              return dato && una != 0x77 && otra != 0x77 && una != otra;
          }},
-        {"ReadBefore70nsAfterOE", 1,
+        {"ReadBefore70nsAfterOE",
+         "5000260 ns: lectura del bus de datos en 0x0123 10 ns antes de que el chip dé el dato; los bits 0xFF aún "
+         "no valen",
          [](ChipModelo& chip) {
              chip.cambiar({.ce = false, .direccion = 0x0123}, despierto);
              chip.cambiar({.ce = false, .oe = false, .direccion = 0x0123}, despierto + 200);
@@ -118,28 +126,34 @@ TEST(ChipModelo, BrokenRulesAreFaults)
              chip.cambiar({.ce = false, .oe = false, .direccion = 0x0123}, despierto + 300); // the same pins again
              return pronto && chip.muestrear(despierto + 320) == 0x77;
          }},
-        {"ReadBefore150nsAfterTheAddress", 1,
+        {"ReadBefore150nsAfterTheAddress",
+         "5000500 ns: lectura del bus de datos en 0x0124 50 ns antes de que el chip dé el dato; los bits 0xFF aún "
+         "no valen",
          [](ChipModelo& chip) {
              leer(chip, despierto, 0x0123);
              chip.cambiar({.ce = false, .oe = false, .direccion = 0x0124}, despierto + 400);
              return chip.muestrear(despierto + 500) != 0x77;
          }},
-        {"LoadLeavesItsPage", 1,
+        {"LoadLeavesItsPage",
+         "5001500 ns: carga de 0x22 en 0x0080 fuera de la página 0x0040-0x007F de su carga; no se escribe",
          [](ChipModelo& chip) {
              chip.avanzar(cargar(chip, cargar(chip, despierto, 0x0041, 0x11), 0x0080, 0x22) + 2'000'000);
              return chip.memoria()[0x0041] == 0x11 && chip.memoria()[0x0080] == 0x77;
          }},
-        {"PageLoadWritesOnlyTheBytesLoaded", 0,
+        {"PageLoadWritesOnlyTheBytesLoaded", "",
          [](ChipModelo& chip) {
              chip.avanzar(cargar(chip, cargar(chip, despierto, 0x0041, 0x11), 0x0043, 0x33) + 2'000'000);
              return chip.memoria()[0x0041] == 0x11 && chip.memoria()[0x0042] == 0x77 && chip.memoria()[0x0043] == 0x33;
          }},
-        {"WriteWithin5msOfPowerUp", 1,
+        {"WriteWithin5msOfPowerUp",
+         "4000500 ns: pulso de escritura en 0x0123 antes de los 5 ms del encendido; se ignora",
          [](ChipModelo& chip) {
              chip.avanzar(cargar(chip, 4'000'000, 0x0123, 0x5A) + 2'000'000);
              return chip.memoria()[0x0123] == 0x77;
          }},
-        {"FuseWithBrownOutDetectionOff", 1,
+        {"FuseWithBrownOutDetectionOff",
+         "0 ns: el fusible bajo 0xFF deja apagada la detección de caída de tensión; debe ser 0x3F (cristal externo, "
+         "caída de tensión a 4,0 V)",
          [](ChipModelo& chip) {
              if (const auto falta = eeprog::revisarfusible(0xFF))
                  chip.anotar(0, *falta);
@@ -151,7 +165,10 @@ TEST(ChipModelo, BrokenRulesAreFaults)
         SCOPED_TRACE(fila.nombre);
         ChipModelo chip(setentaysiete, 1'000'000, false);
         EXPECT_TRUE(fila.pasos(chip));
-        EXPECT_EQ(chip.faltas().size(), fila.faltas) << (chip.faltas().empty() ? "" : chip.faltas().back());
+        std::string faltas;
+        for (const std::string& falta : chip.faltas())
+            faltas += (faltas.empty() ? "" : "\n") + falta;
+        EXPECT_EQ(faltas, fila.faltas);
     }
 }
 
