@@ -186,7 +186,7 @@ TEST_P(OrdenPlaca, ReadingGivesTheImageAndErasingLeavesABlankChip)
 // Many chips bought second-hand come with their write protection on: the board writes
 // through it, by the window's frames and by eeprog-cli's, and leaves it on. The orders that
 // change it are obeyed, but not when heard badly; a chip that keeps nothing even so has each
-// byte named.
+// byte named, and a check after says the chip has not changed.
 TEST_P(OrdenPlaca, AProtectedChipIsProgrammedAndKeepsItsProtection)
 {
     const auto tablero = placa({"--protegido", "--volcado", carpeta + "/volcado.bin", "--estado", carpeta + "/estado"});
@@ -222,8 +222,9 @@ TEST_P(OrdenPlaca, AProtectedChipIsProgrammedAndKeepsItsProtection)
     terminar(*ruidosa);
     EXPECT_EQ(leer("estado"), "protegido\n");
     const auto muerto = placa({"--chip-muerto"});
-    const Corrida corrida = orden(*muerto, {"grabar", carpeta + "/abc.hex"});
+    const Corrida corrida = orden(*muerto, {"grabar", carpeta + "/abc.hex", "--verificar"});
     EXPECT_EQ(corrida.estado, 1);
+    EXPECT_EQ(corrida.errores.find("eeprog-cli: el chip no ha cambiado donde se grabó: revise"), 0u) << corrida.errores;
     for (const char* direccion : {"0010", "0011", "0012"})
         EXPECT_NE(corrida.salida.find("Direccion = " + std::string(direccion) + "  Eco = FF"), std::string::npos)
             << corrida.salida;

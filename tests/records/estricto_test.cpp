@@ -46,6 +46,7 @@ TEST(LectorEstricto, ChecksEveryLineAndRefusesTheFirstAtFaultByItsNumber)
         {"a character that is no digit", leertexto, ":01000000G5AA\n", "1: carácter no hexadecimal"},
         {"record type 06", leertexto, ":0100000655A4\n", "1: tipo de registro desconocido"},
         {"record type S4", leertexto, "S4030000FC\n", "1: tipo de registro desconocido"},
+        {"an S-record that is its type alone", leertexto, "S1\n", "1: longitud errónea"},
         {"a line without its mark", leertexto, ":0100000055AA\n0100010055A9\n", "2: falta la marca de registro"},
         {"nothing is read after the end record", leertexto, ":0100000055AA\n:00000001FF\n?\n", " 0000:55"},
         {"a file without data", leertexto, ":00000001FF\n", "0: el archivo no da ningún byte"},
@@ -74,14 +75,10 @@ TEST(LectorEstricto, ReadsFilesOfOtherToolsAsTheirOwnBinaryOutput)
     const std::pair<std::string, std::string> filas[] = {
         {"objcopy -I binary -O ihex img.bin salida", "objcopy -I ihex -O binary salida esperado.bin"},
         {"objcopy -I binary -O srec --srec-len=32 img.bin salida", "objcopy -I srec -O binary salida esperado.bin"},
-        // An extended linear address of 0 first, 32-byte lines.
-        {"srec_cat img.bin -binary -o salida -intel -crlf", intel},
-        {"srec_cat img.bin -binary -o salida -intel -address-length=3 -output_block_size=16", intel},
-        // Pieces with gaps, a filled one among them, and a start address (03, 05, S8).
+        // An extended linear address of 0 first; pieces with gaps, a filled one among them, and a
+        // start address (03, 05, S8).
         {"srec_cat img.bin -binary -crop 0x100 0x180 0x1800 0x1900 -fill 0xFF 0x1000 0x1200 -o salida -intel "
          "-address-length=3 -execution-start-address=0x1234 -crlf",
-         intel},
-        {"srec_cat img.bin -binary -crop 0x10 0x30 0x1FFF 0x2000 -o salida -intel -execution-start-address=0x10",
          intel},
         {"srec_cat img.bin -binary -crop 0 0x41 0x1FC0 0x2000 -o salida -motorola -address-length=3 "
          "-execution-start-address=0 -crlf",
