@@ -33,26 +33,14 @@ TEST(Placa, AnswersEachConversationByteForByte)
         eeprog::OpcionesPlaca opciones = {};
     } casos[]{
         {"IdleAnswersTheCheckAndEchoesAnyOtherByte", {{"c\0A\xFF\x10"s, "c\0A\xFF\x10"s}}},
-        // The pacing bytes are not echoed: a board that echoed them would answer 0, 1 and 2.
-        {"AReadFrameAnswersWhatAWriteFrameStored",
-         {{"w\2\1\x20\0ABr\3\1\x1F\0\0\1\2"s, "w\2\1\x20\0ABr\3\1\x1F\0\377AB"s}}},
-        // 0xFFFE falls on 0x1FFE, and a frame runs on past the chip's end to 0x0000.
+        // 0xFFFE falls on 0x1FFE, and a frame runs on past the chip's end to 0x0000. The pacing
+        // bytes of a read are not echoed: a board that echoed them would answer "..".
         {"AddressesWrapIntoTheChip", {{"w\4\xFF\xFE\0wxyzr\2\x3F\xFF\0.."s, "w\4\xFF\xFE\0wxyzr\2\x3F\xFF\0xy"s}}},
         {"TypeIsIgnoredAndCountZeroEndsAFrame",
          {{"w\1\0\2\1Ew\0\0\3\0r\2\0\2\0.."s, "w\1\0\2\1Ew\0\0\3\0r\2\0\2\0E\377"s}}},
         // The board cannot see the port reopened: only a silence ends a frame left half way.
         {"AHalfFrameLastsUntilASilence",
          {{"w\3\0\x30\0a"s, "w\3\0\x30\0a"s}, {"b"s, "b"s}, {}, {"cr\3\0\x30\0..."s, "cr\3\0\x30\0ab\377"s}}},
-        // "p" turns the chip's write protection on and "d" off, answered "P" and "D" when done.
-        {"AProtectedChipIsWrittenThroughItsProtection",
-         {{"w\1\0\x70\0Xr\1\0\x70\0.dpw\1\0\x70\0Yr\1\0\x70\0."s,
-           "w\1\0\x70\0Xr\1\0\x70\0XDPw\1\0\x70\0Yr\1\0\x70\0Y"s}},
-         {.protegido = true}},
-        {"MudaNeverAnswers", {{"cw\1\0\0\0M"s, ""}}, {.muda = true}},
-        // Whatever the first byte of a session, the board hangs after it.
-        {"SilenciosaAnswersTheFirstCheckOfEachSession",
-         {{"c", "c"}, {"ccw\1\0\0\0S"s, "c"}, {"rc", ""}},
-         {.silenciosa = true}},
         // Data bytes written are counted over the board's life; the 5th, "E", is heard with
         // its lowest bit flipped, and stored so.
         {"EcoErroneoHearsTheNthDataByteWrong",
