@@ -1,5 +1,7 @@
 #include "shell/tema.h"
 
+#include "plataforma/skin.h"
+
 #include <charconv>
 #include <map>
 
@@ -59,8 +61,7 @@ std::optional<std::map<std::string, std::string, std::less<>>> ajustes(std::stri
 
 Tema temainicial()
 {
-    const Color fondo{221, 247, 224};
-    return {"Media skin", fondo, fondo, {115, 153, 120}, negro, negro, {115, 153, 120}, {255, 255, 255}};
+    return {"Media skin", colorinicial, colorinicial, {115, 153, 120}, negro, negro, {115, 153, 120}, {255, 255, 255}};
 }
 
 Color textosobre(Color fondo)
