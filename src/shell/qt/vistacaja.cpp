@@ -78,7 +78,6 @@ void VistaCaja::BackColor(Color color)
 {
     QPalette paleta = palette();
     paleta.setColor(QPalette::Base, acolorqt(color));
-    paleta.setColor(QPalette::Window, acolorqt(color));
     paleta.setColor(QPalette::Text, Qt::black); // whatever the skin gives the windows
     setPalette(paleta);
 }
