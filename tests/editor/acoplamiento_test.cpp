@@ -38,6 +38,7 @@ TEST(Rejilla, RaisesEnterCellAndScrollOnlyOnARealChangeAndScrollsBeforeEntering)
         {[](Rejilla& r) { r.pulsar(2, 1), r.arrastrar(6, 3), r.Row(2); }, "EnterCell 2,1, at 2,1 2,1 0"},
         {[](Rejilla& r) { r.TopRow(0), r.TopRow(40), r.TopRow(40), r.TopRow(500), r.TopRow(-3); },
          "Scroll 40, Scroll 90, Scroll 0, at 0,0 0,0 0"},
+        {[](Rejilla& r) { r.TopRow(90), r.areavisible(4 * 960, 20 * 270); }, "Scroll 90, Scroll 80, at 0,0 0,0 80"},
         {[](Rejilla& r) { r.Row(9), r.mover(Tecla::abajo), r.mover(Tecla::paginaabajo), r.mover(Tecla::paginaarriba); },
          "EnterCell 9,0, Scroll 1, EnterCell 10,0, Scroll 11, EnterCell 20,0, Scroll 1, EnterCell 10,0, at 10,0 10,0 1"},
         {[](Rejilla& r) { r.mover(Tecla::final), r.mover(Tecla::derecha), r.mover(Tecla::abajo), r.mover(Tecla::principio), r.mover(Tecla::arriba); },
@@ -57,6 +58,7 @@ TEST_F(RejillaTest, CellsHoldBytesAndAreFoundMeasuredAndRedrawnFromTheFirstRowIn
 {
     int avisos = 0;
     rejilla.alcambiar = [&](Cambio c) { avisos += c == Cambio::celdas; };
+    rejilla.Cols(5), rejilla.ColWidth(4, 700), rejilla.Cols(4); // the column taken away keeps no width
     rejilla.ColWidth(0, 500), rejilla.TopRow(20);
     for (auto [fila, columna] : {std::pair{19, 0}, {31, 0}, {100, 0}, {20, 4}, {-1, 0}, {20, 0}, {30, 3}})
         rejilla.TextMatrix(fila, columna, fila == 20 ? std::string(1, '\0') : "\xFF");

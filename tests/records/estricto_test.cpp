@@ -46,6 +46,7 @@ TEST(LectorEstricto, ChecksEveryLineAndRefusesTheFirstAtFaultByItsNumber)
         {"a character that is no digit", leertexto, ":01000000G5AA\n", "1: carácter no hexadecimal"},
         {"record type 06", leertexto, ":0100000655A4\n", "1: tipo de registro desconocido"},
         {"record type S4", leertexto, "S4030000FC\n", "1: tipo de registro desconocido"},
+        {"an S7 end record, its address four bytes", leertexto, "S1050010ABCD72\nS70500000000FA\n?\n", " 0010:ABCD"},
         {"an S-record that is its type alone", leertexto, "S1\n", "1: longitud errónea"},
         {"a line without its mark", leertexto, ":0100000055AA\n0100010055A9\n", "2: falta la marca de registro"},
         {"nothing is read after the end record", leertexto, ":0100000055AA\n:00000001FF\n?\n", " 0000:55"},

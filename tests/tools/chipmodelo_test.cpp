@@ -134,6 +134,11 @@ TEST(ChipModelo, BrokenRulesAreFaults)
              chip.cambiar({.ce = false, .oe = false, .direccion = 0x0124}, despierto + 400);
              return chip.muestrear(despierto + 500) != 0x77;
          }},
+        {"BothDriveTheDataBus",
+         "5000000 ns: el chip y el microcontrolador conducen a la vez el bus de datos (bits 0x0F) en 0x0123",
+         [](ChipModelo& chip) {
+             return chip.cambiar({.ce = false, .oe = false, .direccion = 0x0123, .conducidos = 0x0F}, despierto), true;
+         }},
         {"LoadLeavesItsPage",
          "5001500 ns: carga de 0x22 en 0x0080 fuera de la página 0x0040-0x007F de su carga; no se escribe",
          [](ChipModelo& chip) {
