@@ -7,13 +7,10 @@ namespace eeprog::prueba {
 
 // On a screen of 1440 dots per inch a pixel is a twip, so each control must stand on the very
 // twip its window's layout gives it: a place one twip off, which rounds away at 96, shows here.
-struct LugaresTest : VentanaPrueba {
-    static void SetUpTestSuite()
-    {
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" EEPROG_FUENTES "/tests/shell/pantalla1440.json");
-        crearaplicacion();
-    }
-};
+// The screen is set before the program's QApplication is made.
+const bool pantalla =
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" EEPROG_FUENTES "/tests/shell/pantalla1440.json");
+using LugaresTest = VentanaPrueba;
 
 // The place of each control shown, in the order they were made, then the size of the whole.
 std::string lugares(const QWidget& ventana)
