@@ -8,12 +8,6 @@
 
 namespace eeprog {
 
-namespace {
-
-constexpr int retroceso = 8;
-
-} // namespace
-
 VistaCaja::VistaCaja(Letras letras, QWidget* padre) : QLineEdit(padre), letras_(letras)
 {
     setFocusPolicy(Qt::ClickFocus);
@@ -103,9 +97,9 @@ bool VistaCaja::event(QEvent* evento)
     return QLineEdit::event(evento);
 }
 
-// Enter, Escape and Backspace raise KeyPress too, as keys that make a character. Backspace
-// then does what it does in any box: with the caret at the start, nothing. Enter and Escape
-// do nothing more: the box has no dialog around it to close.
+// Enter, Escape and Backspace raise KeyPress too, as keys that make a character, and do
+// nothing more: the box has no dialog around it to close, and by the time a Backspace
+// could act, KeyPress has cancelled it or moved the box on with its caret at the start.
 void VistaCaja::keyPressEvent(QKeyEvent* evento)
 {
     if (evento->matches(QKeySequence::Paste) || evento->matches(QKeySequence::Undo) ||
@@ -121,9 +115,7 @@ void VistaCaja::keyPressEvent(QKeyEvent* evento)
         return;
     }
     evento->accept();
-    const int tecla = pulsar(*letra);
-    if (tecla == retroceso)
-        QLineEdit::keyPressEvent(evento);
+    pulsar(*letra);
 }
 
 // A character composed on the keyboard (a dead key, then a vowel) is one key press, as a
@@ -148,17 +140,16 @@ void VistaCaja::mouseReleaseEvent(QMouseEvent* evento)
 
 // Offers a character to KeyPress and, unless the handler cancels it or makes it a control
 // code, puts it in at the caret. A character that the box's bytes cannot hold is no key
-// at all. Gives the code that KeyPress left.
-int VistaCaja::pulsar(char32_t letra)
+// at all.
+void VistaCaja::pulsar(char32_t letra)
 {
     int tecla = codigo(letra);
     if (tecla < 0)
-        return 0;
+        return;
     if (KeyPress)
         KeyPress(tecla);
     if (tecla >= 32)
         insert(mostrar(std::string(1, static_cast<char>(tecla))));
-    return tecla;
 }
 
 } // namespace eeprog

@@ -33,7 +33,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* evento) override;
 
 private:
-    int pulsar(char32_t letra);
+    void pulsar(char32_t letra);
     int codigo(char32_t letra) const;
     QString mostrar(const std::string& bytes) const;
 
