@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
+#include <mutex>
+
 namespace eeprog {
 
 namespace {
@@ -41,8 +43,8 @@ QAccessibleInterface* fabricaaccesible(const QString&, QObject* objeto)
 BotonImagen::BotonImagen(const QString& palabra, const QString& ayuda, const QPixmap& icono, QWidget* padre)
     : QFrame(padre), icono_(icono)
 {
-    static const bool accesible = (QAccessible::installFactory(fabricaaccesible), true);
-    Q_UNUSED(accesible);
+    static std::once_flag fabrica;
+    std::call_once(fabrica, [] { QAccessible::installFactory(fabricaaccesible); });
     setToolTip(ayuda);
     setAccessibleName(palabra);
     setAccessibleDescription(ayuda);
