@@ -94,11 +94,11 @@ public:
     void pulsar(int fila, int columna);
     void arrastrar(int fila, int columna);
     void soltar(int fila, int columna);
-    void apuntar(int fila, int columna);
     // The keyboard: the current cell moves and comes into sight.
     void mover(Tecla tecla);
 
 private:
+    void apuntar(int fila, int columna);
     void ponercelda(int fila, int columna);
     void mostrarcelda(int fila, int columna);
     int filavalida(int fila) const;

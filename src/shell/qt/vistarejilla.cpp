@@ -64,7 +64,6 @@ VistaRejilla::VistaRejilla(Rejilla& rejilla, Letras letras, QWidget* padre)
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setLineWidth(1);
     setFocusPolicy(Qt::StrongFocus);
-    viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -193,13 +192,11 @@ void VistaRejilla::mousePressEvent(QMouseEvent* evento)
     rejilla_.pulsar(fila, columna);
 }
 
+// Only a drag moves the pointer's cell: its other readers come after a press or a release.
 void VistaRejilla::mouseMoveEvent(QMouseEvent* evento)
 {
     const auto [fila, columna] = celdaen(evento->position().toPoint());
-    if (evento->buttons() != Qt::NoButton)
-        rejilla_.arrastrar(fila, columna);
-    else
-        rejilla_.apuntar(fila, columna);
+    rejilla_.arrastrar(fila, columna);
 }
 
 void VistaRejilla::mouseReleaseEvent(QMouseEvent* evento)
