@@ -19,11 +19,7 @@ using namespace std::chrono_literals;
 // keeps every byte it hears.
 class Escucha {
 public:
-    Escucha() : maestro_(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
-    {
-        grantpt(maestro_);
-        unlockpt(maestro_);
-    }
+    Escucha() : maestro_(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK)) { grantpt(maestro_), unlockpt(maestro_); }
     ~Escucha() { close(maestro_); }
     std::string ruta() const { return ptsname(maestro_); }
     std::string oido() const

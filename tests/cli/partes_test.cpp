@@ -64,7 +64,7 @@ TEST(Opciones, EachOrderTakesItsOwnSettingsAndWrongUseSaysWhatIsWrong)
 
 TEST(Opciones, AFileIsARawImageByItsFormatOrElseByItsName)
 {
-    EXPECT_TRUE(esbinario("x.bin", Formato::segunnombre) && esbinario("x.hex", Formato::bin));
+    EXPECT_TRUE(esbinario(".bin", Formato::segunnombre) && esbinario("x.hex", Formato::bin));
     EXPECT_FALSE(esbinario("x.hex", Formato::segunnombre) || esbinario("bin", Formato::segunnombre) ||
                  esbinario("x.bin", Formato::hex));
 }

@@ -73,7 +73,8 @@ TEST_F(RejillaTest, CellsHoldBytesAndAreFoundMeasuredAndRedrawnFromTheFirstRowIn
     EXPECT_EQ(rejilla.ColWidth(4) + rejilla.ColWidth(-1), 0);
     EXPECT_EQ(std::tuple(rejilla.CellTop(), rejilla.CellLeft(), rejilla.CellWidth()),
               std::tuple(9 * 270, 500 + 960 * 2, 960));
-    rejilla.areavisible(2900, 10 * 270), rejilla.mover(Tecla::fin); // too narrow: as few columns as need go
+    // Too narrow: as few columns as need go, and no more.
+    rejilla.areavisible(2900, 10 * 270), rejilla.mover(Tecla::fin), rejilla.LeftCol(3);
     EXPECT_EQ(std::pair(rejilla.LeftCol(), rejilla.CellLeft()), std::pair(1, 1920));
 }
 

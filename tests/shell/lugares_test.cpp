@@ -31,6 +31,8 @@ TEST_F(LugaresTest, EveryControlStandsOnItsTwip)
     EXPECT_EQ(lugares(ventana->StatusBar1()),
               "0 0 4500 255 | 4500 0 2000 255 | 6500 0 800 255 | 7300 0 700 255 | 8000 0 700 255 | in 9045 255");
     EXPECT_EQ(ventana->rejillas().fghex().rectangulocelda(0, 0).size(), QSize(300, 270)); // a byte's column
+    const QPoint fuera = ventana->frameGeometry().center() - ventana->screen()->availableGeometry().center();
+    EXPECT_LE(fuera.manhattanLength(), 4) << "the window opens centred, to a frame's width";
     ventana->opcionacercade_Click();
     EXPECT_EQ(lugares(*ventana->frmAbout()),
               "5160 1080 1500 345 | 5160 1560 1485 345 | 120 120 6495 375 | "

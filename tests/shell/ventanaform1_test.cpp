@@ -101,7 +101,8 @@ TEST_F(VentanaTest, CtrlXEndsTheRunWithNoQuestion)
 }
 
 // The grid widgets, checked against the grids they show: moving fgascii's bar moves all three
-// grids, whose rows then line up; a click makes the cell under the pointer current, once.
+// grids, whose rows then line up; a click makes the cell under the pointer current, once,
+// and Ctrl+End the last cell.
 TEST_F(VentanaTest, TheScrollBarAndTheGridsTopRowMoveTogetherAndAClickMakesACellCurrent)
 {
     Rejillas& v = ventana->rejillas();
@@ -115,6 +116,8 @@ TEST_F(VentanaTest, TheScrollBarAndTheGridsTopRowMoveTogetherAndAClickMakesACell
     c().fghex.EnterCell = [&] { ++entradas; };
     clic(c().fghex, 302, 7), clic(c().fghex, 302, 7);
     EXPECT_EQ(std::tuple(c().fghex.Row(), c().fghex.Col(), entradas), std::tuple(302, 7, 1));
+    QTest::keyClick(&v.fghex(), Qt::Key_End, Qt::ControlModifier); // and so does a key
+    EXPECT_EQ(std::pair(c().fghex.Row(), c().fghex.Col()), std::pair(4095, 15));
 }
 
 TEST_F(VentanaTest, CellsAreDrawnWhereTheGridPutsThem)

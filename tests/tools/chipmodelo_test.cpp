@@ -162,8 +162,8 @@ TEST(ChipModelo, BrokenRulesAreFaults)
          [](ChipModelo& chip) {
              if (const auto falta = eeprog::revisarfusible(0xFF))
                  chip.anotar(0, *falta);
-             // 16K cycles of 7.3728 MHz and 65 ms
-             return eeprog::arranque(0xFF, 7'372'800) == 67'222'222;
+             // 16K cycles of 7.3728 MHz and 65 ms, with the brown-out detection on too (the firmware's fuse)
+             return eeprog::arranque(0xFF, 7'372'800) == 67'222'222 && eeprog::arranque(0x3F, 7'372'800) == 67'222'222;
          }},
     };
     for (const auto& fila : filas) {
