@@ -16,9 +16,6 @@ VentanaSplash::VentanaSplash(std::function<void()> mostrarForm1, QWidget* padre)
 {
     setObjectName(QStringLiteral("frmSplash"));
     setAttribute(Qt::WA_DeleteOnClose);
-    // The main window comes up after the splash has gone when a key comes first; the run
-    // must not end in between.
-    setAttribute(Qt::WA_QuitOnClose, false);
     setFocusPolicy(Qt::StrongFocus);
     QPalette paleta = palette();
     paleta.setColor(QPalette::Window, paleta.color(QPalette::WindowText));
