@@ -114,12 +114,8 @@ TEST(Progreso, DrawsOverItsOwnLineAndEndsItOnce)
     std::size_t largo = 0;
     std::FILE* terminal = open_memstream(&texto, &largo);
     Progreso progreso(terminal);
-    progreso.empezar("Leyendo", 100);
-    progreso.avanzar(50);
-    progreso.avanzar(60);
-    progreso.terminar();
-    progreso.empezar("Grabando", 8);
-    progreso.terminar();
+    progreso.empezar("Leyendo", 100), progreso.avanzar(50), progreso.avanzar(60), progreso.terminar();
+    progreso.empezar("Grabando", 8), progreso.terminar();
     std::fclose(terminal);
     const std::string dibujado = std::regex_replace(texto, std::regex("[0-9]+ B/s"), "N B/s");
     std::free(texto);

@@ -76,6 +76,8 @@ TEST_F(RejillaTest, CellsHoldBytesAndAreFoundMeasuredAndRedrawnFromTheFirstRowIn
     // Too narrow: as few columns as need go, and no more.
     rejilla.areavisible(2900, 10 * 270), rejilla.mover(Tecla::fin), rejilla.LeftCol(3);
     EXPECT_EQ(std::pair(rejilla.LeftCol(), rejilla.CellLeft()), std::pair(1, 1920));
+    rejilla.FormatString("^|>"); // a mark for each column, from the left
+    EXPECT_TRUE(rejilla.ColAlignment(0) == Alineacion::centro && rejilla.ColAlignment(1) == Alineacion::derecha);
 }
 
 // The three grids as the window has them, with the coupling's handlers on their events.

@@ -26,7 +26,7 @@ struct Tecleo {
 const Tecleo tecleos[] = {
     {"OneHexDigitStoresNothingYet", false, false, 2, 15, "4", 2, 15, "FF|\xFF|4|0|2,15|0"},
     {"TwoHexDigitsStoreAByteAndTheBoxRunsOnToTheNextRow", false, false, 2, 15, "40", 2, 15, "40|@|7A|0|3,0|2"},
-    {"TheNextTwoDigitsStoreTheNextByte", false, false, 2, 14, "4041", 2, 15, "41|A|7A|0|3,0|2"},
+    {"TheNextTwoDigitsStoreTheNextByte", false, false, 2, 14, "4049", 2, 15, "49|I|7A|0|3,0|2"},
     {"KeysThatAreNoUppercaseHexDigitBeepAndKeepThePendingDigit", false, false, 1, 1, "4a\r\b B", 1, 1,
      "4B|K|FF|4|1,2|1"},
     {"APendingDigitSurvivesAMoveAndTheSecondStoresWhereTheGridIsNow", false, false, 0, 1, "4@1", 5, 5,

@@ -30,13 +30,15 @@ TEST_F(LugaresTest, EveryControlStandsOnItsTwip)
               "120 1800 900 3735 | 645 1800 5205 3735 | 5475 1800 3420 3735 | 120 5640 8655 255 | in 9045 5970");
     EXPECT_EQ(lugares(ventana->StatusBar1()),
               "0 0 4500 255 | 4500 0 2000 255 | 6500 0 800 255 | 7300 0 700 255 | 8000 0 700 255 | in 9045 255");
-    EXPECT_EQ(ventana->rejillas().fghex().rectangulocelda(0, 0).size(), QSize(300, 270)); // a byte's column
+    EXPECT_EQ(ventana->rejillas().fghex().rectangulocelda(0, 0), QRect(1, 1, 300, 270)); // inside a 1-pixel frame
     const QPoint fuera = ventana->frameGeometry().center() - ventana->screen()->availableGeometry().center();
     EXPECT_LE(fuera.manhattanLength(), 4) << "the window opens centred, to a frame's width";
     ventana->opcionacercade_Click();
-    EXPECT_EQ(lugares(*ventana->frmAbout()),
-              "5160 1080 1500 345 | 5160 1560 1485 345 | 120 120 6495 375 | "
-              "5400 600 1215 375 | 240 960 4815 1335 | 2760 2520 3855 495 | in 6780 3255");
+    // The about box at its place on the screen, its size fixed.
+    const QWidget& caja = *ventana->frmAbout();
+    EXPECT_EQ(QRect(caja.geometry().topLeft(), caja.maximumSize()), QRect(2340, 1935, 6780, 3255));
+    EXPECT_EQ(lugares(caja), "5160 1080 1500 345 | 5160 1560 1485 345 | 120 120 6495 375 | 5400 600 1215 375 | "
+                             "240 960 4815 1335 | 2760 2520 3855 495 | in 6780 3255");
     Programa programa{[this] { return crear(); }};
     EXPECT_EQ(lugares(*programa.frmSplash()), "1320 240 3135 375 | 1800 480 2055 255 | in 5775 915");
 }

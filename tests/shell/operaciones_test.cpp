@@ -72,7 +72,8 @@ TEST_F(Operaciones, EveryOperationRunsThroughTheSerialPortAgainstTheEmulator)
     dialogo.elegir = carpeta + "/lectura.hex";
     form->guardar_Click();
     EXPECT_EQ(leerarchivo(carpeta + "/lectura.hex"), lineashex(imagen) + "\r\n");
-    std::this_thread::sleep_for(Emulador::cambiodesesion); // the command line reads the same chip
+    // The command line reads the same chip, over a file of its own.
+    escribir("viejo", "cli.hex"), std::this_thread::sleep_for(Emulador::cambiodesesion);
     EXPECT_EQ(correrorden({"--puerto", emulador.ruta(), "leer", "-o", carpeta + "/cli.hex"}, carpeta).salida,
               "8192 bytes leídos en " + carpeta + "/cli.hex\n");
     EXPECT_EQ(leerarchivo(carpeta + "/cli.hex"), leerarchivo(carpeta + "/lectura.hex"));

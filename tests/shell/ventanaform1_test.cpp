@@ -142,7 +142,8 @@ TEST_F(VentanaTest, TheFileDialogOpensAsAskedAndGivesBackTheChoice)
     QStringList visto;
     auto responder = [&](bool aceptar) {
         auto* d = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        visto = d->nameFilters() << d->selectedNameFilter() << d->selectedFiles().value(0).section('/', -1);
+        visto = d->nameFilters() << d->selectedNameFilter() << d->selectedFiles().value(0).section('/', -1)
+                                 << (d->acceptMode() == QFileDialog::AcceptSave ? "guardar" : "abrir");
         d->selectNameFilter(d->nameFilters().value(0));
         d->selectFile(QString::fromStdString(elegido));
         aceptar ? static_cast<QDialog*>(d)->accept() : d->reject();
@@ -150,13 +151,13 @@ TEST_F(VentanaTest, TheFileDialogOpensAsAskedAndGivesBackTheChoice)
     QTimer::singleShot(0, [&] { responder(true); });
     EXPECT_TRUE(comun.ShowOpen());
     EXPECT_EQ(visto.join('|'), "Archivos tipo OBJETO (*.obj)|Archivos tipo HEXADECIMAL (*.hex)|"
-                               "Archivos tipo HEXADECIMAL (*.hex)|nombre.hex");
+                               "Archivos tipo HEXADECIMAL (*.hex)|nombre.hex|abrir");
     EXPECT_EQ(std::tuple(comun.FileName, comun.FileTitle, comun.FilterIndex), std::tuple(elegido, "galaxy.skn", 1));
     comun.FilterIndex = 3; // past the entries: the dialog opens on the first
     QTimer::singleShot(0, [&] { responder(false); });
     EXPECT_FALSE(comun.ShowSave());
-    EXPECT_EQ(visto.value(2).toStdString() + ' ' + comun.FileName,
-              "Archivos tipo OBJETO (*.obj) " + elegido); // the cancel changed nothing
+    EXPECT_EQ((visto.value(2) + ' ' + visto.value(4)).toStdString() + ' ' + comun.FileName,
+              "Archivos tipo OBJETO (*.obj) guardar " + elegido); // the cancel changed nothing
 }
 
 // A skin from the menu dresses the window and its menus in the colours of its file, and gives

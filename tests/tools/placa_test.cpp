@@ -106,6 +106,7 @@ TEST(EeprogPlaca, ServesSessionsDumpsTheChipOnExitAndRefusesBadOptions)
     std::string carpeta = testing::TempDir() + "eeprogplacaXXXXXX";
     ASSERT_NE(mkdtemp(carpeta.data()), nullptr);
     std::ofstream(carpeta + "/imagen.bin") << "xy";
+    std::filesystem::create_symlink("/nohay", carpeta + "/com1"); // a link left by an earlier run
     Emulador emulador({"--imagen", carpeta + "/imagen.bin", "--volcado", carpeta + "/volcado.bin", "--enlace",
                        carpeta + "/com1", "--ritmo"});
     ASSERT_FALSE(emulador.ruta().empty());
