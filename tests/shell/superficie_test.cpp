@@ -75,8 +75,7 @@ TEST_F(SuperficieTest, EachButtonAndItsMenuEntryGiveTheSameResult)
     }
 }
 
-// Not modal; loaded once while it stands open, and only
-// its loading ends edit mode.
+// Not modal; loaded once while it stands open, and only its loading ends edit mode.
 TEST_F(SuperficieTest, TheAboutBoxLoadsOnceAndClosesByAceptarEnterOrEsc)
 {
     Form1& form = ventana->logica();
