@@ -1,5 +1,8 @@
 #include "bus.h"
 
+#include "rapido.h"
+#include "uart.h"
+
 #include <avr/io.h>
 #include <util/delay.h>
 
@@ -16,6 +19,7 @@
 #define ESPERASONDEO 10 /* us */
 #define VUELTASSONDEO 2000u
 #define CICLOESCRITURA 10 /* ms */
+#define TICKSCICLOMAXIMO TICKSSILENCIO(27)
 
 void iniciarbus(void)
 {
@@ -88,14 +92,84 @@ void escribirmemoria(void* contexto, uint16_t direccion, uint8_t dato)
     esperarciclo();
 }
 
-void escribirprotegida(void* contexto, uint16_t direccion, uint8_t dato)
+static void abrirproteccion(void)
 {
-    (void)contexto;
     cargarbyte(0x1555, 0xAA);
     cargarbyte(0x0AAA, 0x55);
     cargarbyte(0x1555, 0xA0);
+}
+
+void escribirprotegida(void* contexto, uint16_t direccion, uint8_t dato)
+{
+    (void)contexto;
+    abrirproteccion();
     cargarbyte(direccion, dato);
     esperarciclo();
+}
+
+/* The page's last byte loaded, which DATA polling reads back, and when its cycle began in
+ * timer 1's ticks. */
+static uint16_t ultimadireccion;
+static uint8_t ultimodato;
+static uint16_t iniciociclo;
+
+/* Within a page only A0-A5 change, on port C, and the data lines may stay driven from one
+ * byte to the next, as /OE stays high: each byte's load takes a couple of microseconds, and
+ * the gap over bytes not given a few cycles each, well within the 150 us the chip waits for
+ * the next. The receive interrupt may come between two, and takes less. */
+void cargarpagina(void* contexto, uint16_t direccion, const uint8_t* datos, const uint8_t* mascara, uint8_t protegida)
+{
+    (void)contexto;
+    if (protegida)
+        abrirproteccion();
+    poneradireccion(direccion);
+    DDRA = 0xFF;
+    uint8_t ultimo = 0;
+    for (uint8_t octeto = 0; octeto < TAMANOPAGINA / 8u; ++octeto) {
+        uint8_t i = (uint8_t)(octeto * 8u);
+        for (uint8_t bits = mascara[octeto]; bits != 0; bits >>= 1, ++i) {
+            if (bits & 1) {
+                PORTC = (uint8_t)(direccion + i);
+                PORTA = datos[i];
+                PORTD &= (uint8_t)~CE;
+                PORTD &= (uint8_t)~WE;
+                __builtin_avr_delay_cycles(2);
+                PORTD |= WE;
+                PORTD |= CE;
+                ultimo = i;
+            }
+        }
+    }
+    ultimadireccion = (uint16_t)(direccion + ultimo);
+    ultimodato = datos[ultimo];
+    DDRA = 0;
+    PORTA = 0;
+    iniciociclo = TCNT1;
+}
+
+void leerpagina(void* contexto, uint16_t direccion, uint8_t* destino)
+{
+    (void)contexto;
+    poneradireccion(direccion);
+    for (uint8_t i = 0; i < TAMANOPAGINA; ++i) {
+        PORTC = (uint8_t)(direccion + i);
+        destino[i] = leerdatos();
+    }
+}
+
+/* DATA polling: while the cycle runs, I/O7 reads as the complement of the last byte loaded.
+ * A cycle that stored nothing (the protection refused the load, or the chip is dead) leaves
+ * the old byte there, so the toggle bit, which stops with the cycle, ends the wait too; and
+ * after 27 ms it is over whatever the bus says. */
+uint8_t ocupado(void* contexto)
+{
+    (void)contexto;
+    if ((uint16_t)(TCNT1 - iniciociclo) > TICKSCICLOMAXIMO)
+        return 0;
+    poneradireccion(ultimadireccion);
+    const uint8_t primera = leerdatos();
+    const uint8_t segunda = leerdatos();
+    return ((segunda ^ ultimodato) & 0x80) != 0 && ((primera ^ segunda) & 0x40) != 0;
 }
 
 /* The sequences are page loads, each byte well within 150 us of the last; the chip then runs

@@ -1,6 +1,6 @@
 /* The AT28C64B on the ATmega16's pins: data on port A, address on port C and PB0-PB4, /CE, /OE
- * and /WE on PD2-PD4. These are the functions of the protocol's struct chip; the bus keeps no
- * state of its own, so their context is unused. */
+ * and /WE on PD2-PD4. These are the functions of the protocols' struct chip; their context is
+ * unused, and the bus keeps only what DATA polling needs of the last page load. */
 #ifndef EEPROG_BUS_H
 #define EEPROG_BUS_H
 
@@ -17,6 +17,11 @@ void escribirmemoria(void* contexto, uint16_t direccion, uint8_t dato);
 /* The byte behind the data sheet's three-byte sequence, in one page load: a chip whose
  * software data protection is on takes it, and the protection stays on. */
 void escribirprotegida(void* contexto, uint16_t direccion, uint8_t dato);
+
+/* The fast protocol's page load, and its write cycle's end. Timer 1 must be running. */
+void cargarpagina(void* contexto, uint16_t direccion, const uint8_t* datos, const uint8_t* mascara, uint8_t protegida);
+uint8_t ocupado(void* contexto);
+void leerpagina(void* contexto, uint16_t direccion, uint8_t* destino);
 
 void desprotegermemoria(void* contexto);
 void protegermemoria(void* contexto);

@@ -32,6 +32,9 @@ static uint8_t enreposo(struct protocolo *p, const struct chip *c, uint8_t byte)
         c->proteger(c->contexto);
         p->protegido = 1;
         return HECHOPROTEGER;
+    } else if (byte == ORDENRAPIDO) {
+        p->estado = PASORAPIDO;
+        return RESPUESTARAPIDO;
     }
     return byte;
 }

@@ -19,7 +19,12 @@ enum {
     /* Replies of their own, once the chip's sequence and write cycle are over: a board that
      * only echoed the command would not have done it. */
     HECHODESPROTEGER = 0x44,
-    HECHOPROTEGER = 0x50
+    HECHOPROTEGER = 0x50,
+    /* The fast protocol's question, "v", which an older board echoes; this one answers "V"
+     * and the version, then speaks it (rapido.h). */
+    ORDENRAPIDO = 0x76,
+    RESPUESTARAPIDO = 0x56,
+    RAPIDOVERSION = 1
 };
 
 /* The AT28C64B: 13 address lines; the board leaves the upper ones unconnected. */
@@ -43,10 +48,21 @@ struct chip {
     void (*escribirprotegido)(void *contexto, uint16_t direccion, uint8_t dato);
     void (*desproteger)(void *contexto);
     void (*proteger)(void *contexto);
+    /* For the fast protocol's page writes: the bytes of the page whose bit is set in the
+     * mask, behind the protection's three bytes when protegida, in one load; it returns as
+     * the write cycle starts, and ocupado is 1 while that cycle runs. The page's
+     * address is aligned. */
+    void (*cargarpagina)(void *contexto, uint16_t direccion, const uint8_t *datos, const uint8_t *mascara,
+                         uint8_t protegida);
+    uint8_t (*ocupado)(void *contexto);
+    /* The 64 bytes of the page, in one go: the check after a page write. */
+    void (*leerpagina)(void *contexto, uint16_t direccion, uint8_t *destino);
     void *contexto;
 };
 
-enum estadoprotocolo { REPOSO, CUENTA, ALTA, BAJA, TIPO, DATOS };
+/* PASORAPIDO: RESPUESTARAPIDO has been answered; the caller sends RAPIDOVERSION and serves
+ * a fast session, after which the protocol is idle. */
+enum estadoprotocolo { REPOSO, CUENTA, ALTA, BAJA, TIPO, DATOS, PASORAPIDO };
 
 /* Where the board stands in a frame, and what it has learnt of the chip since the last check:
  * each operation opens with a check, and the chip may have been changed between two. */
