@@ -9,7 +9,25 @@ namespace eeprog {
 
 namespace {
 
-enum Opcion { imagen = 1, volcado, muda, silenciosa, ecoerroneo, ritmo, enlace, reacciones, protegido, estado, ayuda };
+enum Opcion {
+    imagen = 1,
+    volcado,
+    muda,
+    silenciosa,
+    ecoerroneo,
+    ritmo,
+    enlace,
+    reacciones,
+    protegido,
+    estado,
+    ayuda,
+    lenta,
+    ciclo,
+    byteerroneo,
+    respuestaerronea
+};
+
+constexpr long ciclomaximo = 1'000'000;
 
 const option opciones[] = {
     {"imagen", required_argument, nullptr, imagen},
@@ -22,10 +40,25 @@ const option opciones[] = {
     {"reacciones", required_argument, nullptr, reacciones},
     {"protegido", no_argument, nullptr, protegido},
     {"estado", required_argument, nullptr, estado},
+    {"lenta", no_argument, nullptr, lenta},
+    {"ciclo", required_argument, nullptr, ciclo},
+    {"byte-erroneo", required_argument, nullptr, byteerroneo},
+    {"respuesta-erronea", required_argument, nullptr, respuestaerronea},
     {"ayuda", no_argument, nullptr, ayuda},
     {"help", no_argument, nullptr, ayuda},
     {nullptr, 0, nullptr, 0},
 };
+
+// The Nth of something, from 1.
+bool cuenta(const char* opcion, const char* valor, long& destino)
+{
+    if (const auto numero = numeroentre(valor, 1, std::numeric_limits<long>::max())) {
+        destino = *numero;
+        return true;
+    }
+    std::cerr << "eeprog-placa: " << opcion << " pide un número mayor que 0: " << valor << '\n';
+    return false;
+}
 
 bool tomar(int opcion, const char* valor, Argumentos& argumentos)
 {
@@ -60,13 +93,22 @@ bool tomar(int opcion, const char* valor, Argumentos& argumentos)
     case ayuda:
         argumentos.ayuda = true;
         return true;
-    case ecoerroneo:
-        if (auto numero = numeroentre(valor, 1, std::numeric_limits<long>::max())) {
-            argumentos.placa.ecoerroneo = *numero;
+    case lenta:
+        argumentos.placa.lenta = true;
+        return true;
+    case ciclo:
+        if (const auto numero = numeroentre(valor, 1, ciclomaximo)) {
+            argumentos.ciclo = *numero;
             return true;
         }
-        std::cerr << "eeprog-placa: --eco-erroneo pide un número mayor que 0: " << valor << '\n';
+        std::cerr << "eeprog-placa: --ciclo pide microsegundos, de 1 a " << ciclomaximo << ": " << valor << '\n';
         return false;
+    case ecoerroneo:
+        return cuenta("--eco-erroneo", valor, argumentos.placa.ecoerroneo);
+    case byteerroneo:
+        return cuenta("--byte-erroneo", valor, argumentos.placa.byteerroneo);
+    case respuestaerronea:
+        return cuenta("--respuesta-erronea", valor, argumentos.placa.respuestaerronea);
     default:
         return false;
     }
@@ -93,7 +135,12 @@ std::string uso()
            "  --imagen ARCHIVO     contenido inicial del chip (binario, desde 0x0000)\n"
            "  --volcado ARCHIVO    guarda el chip entero (8192 bytes) al terminar\n"
            "  --enlace RUTA        crea también el enlace RUTA hacia el puerto\n"
-           "  --ritmo              responde al paso de una línea real de 9600 baudios\n"
+           "  --ritmo              responde al paso de una línea real, a 9600 baudios\n"
+           "                       o a 115200 con el protocolo rápido\n"
+           "  --ciclo MICROSEGUNDOS  con --ritmo, lo que dura cada ciclo de escritura\n"
+           "                       del chip (si no, no dura nada)\n"
+           "  --lenta              una placa con el programa anterior: solo habla el\n"
+           "                       protocolo de 9600 baudios\n"
            "  --protegido          el chip empieza con su protección de escritura\n"
            "                       (las órdenes d y p la quitan y la ponen)\n"
            "  --estado ARCHIVO     al terminar, escribe si el chip queda protegido\n"
@@ -105,6 +152,10 @@ std::string uso()
            "                       programa a cada respuesta, en microsegundos\n"
            "  --eco-erroneo N      el N-ésimo byte de datos escrito se oye mal\n"
            "                       (un bit cambiado): se guarda y se devuelve así\n"
+           "  --byte-erroneo N     el N-ésimo byte que oye con el protocolo rápido\n"
+           "                       llega con un bit cambiado\n"
+           "  --respuesta-erronea N  el N-ésimo byte que envía con el protocolo rápido\n"
+           "                       sale con un bit cambiado\n"
            "  --ayuda, --help      muestra esta ayuda\n";
 }
 

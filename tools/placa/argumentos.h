@@ -16,6 +16,7 @@ struct Argumentos {
     std::string reacciones;
     std::string estado;
     bool ritmo = false;
+    long ciclo = 0; // microseconds of each write cycle, with ritmo
     bool ayuda = false;
 };
 

@@ -17,7 +17,7 @@ namespace {
 
 int servir(eeprog::Placa& placa, const eeprog::Argumentos& argumentos, const volatile std::sig_atomic_t& terminar)
 {
-    eeprog::Servidor servidor(placa, argumentos.ritmo);
+    eeprog::Servidor servidor(placa, argumentos.ritmo, argumentos.ciclo);
     if (!servidor.abrir()) {
         std::cerr << "eeprog-placa: el sistema no da un pseudoterminal\n";
         return 1;

@@ -2,6 +2,7 @@
 
 #include "link/protocolo.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace eeprog {
@@ -24,14 +25,14 @@ Placa::Placa(OpcionesPlaca opciones) : opciones(opciones), protegido_(opciones.p
     iniciarprotocolo(&protocolo_);
 }
 
-std::optional<unsigned char> Placa::recibir(unsigned char byte)
+std::string Placa::recibir(unsigned char byte)
 {
-    if (opciones.muda) {
-        return std::nullopt;
-    }
-    if (opciones.silenciosa) {
+    if (opciones.muda)
+        return {};
+    if (opciones.silenciosa)
         return ensilencio(byte);
-    }
+    if (enrapido)
+        return rapido(byte);
     return atender(byte);
 }
 
@@ -42,7 +43,15 @@ void Placa::conectar()
 
 void Placa::silencio()
 {
+    if (enrapido)
+        protocolo_.protegido = rapido_.protegido;
+    enrapido = false;
     volverareposo(&protocolo_);
+}
+
+void Placa::hueco()
+{
+    rapidohueco(&rapido_);
 }
 
 std::array<unsigned char, Placa::tamano>& Placa::chip()
@@ -56,21 +65,20 @@ const std::array<unsigned char, Placa::tamano>& Placa::chip() const
 }
 
 // Whatever the first byte was, the board hangs after it: a check passes, nothing else does.
-std::optional<unsigned char> Placa::ensilencio(unsigned char byte)
+std::string Placa::ensilencio(unsigned char byte)
 {
     bool primero = !oido;
     oido = true;
     if (primero && byte == ORDENCOMPROBAR) {
         return atender(byte);
     }
-    return std::nullopt;
+    return {};
 }
 
-// The chip as the table reaches it: a write cycle takes no time here, and a chip whose
+// The chip as the tables reach it: a write cycle takes no time here, and a chip whose
 // software data protection is on keeps its data, as the real one does with a plain write,
-// while a protected write goes through. A data byte heard wrong is what the firmware
-// receives: it stores and echoes it so.
-unsigned char Placa::atender(unsigned char byte)
+// while a protected write goes through.
+::chip Placa::bus()
 {
     static constexpr auto leer = [](void* contexto, std::uint16_t direccion) -> std::uint8_t {
         return placade(contexto).memoria[direccion];
@@ -87,11 +95,65 @@ unsigned char Placa::atender(unsigned char byte)
     };
     static constexpr auto desproteger = [](void* contexto) { placade(contexto).protegido_ = false; };
     static constexpr auto proteger = [](void* contexto) { placade(contexto).protegido_ = true; };
-    const ::chip bus{leer, escribir, escribirprotegido, desproteger, proteger, this};
+    static constexpr auto cargarpagina = [](void* contexto, std::uint16_t direccion, const std::uint8_t* datos,
+                                            const std::uint8_t* mascara, std::uint8_t protegida) {
+        Placa& placa = placade(contexto);
+        ++placa.ciclos_;
+        for (unsigned i = 0; i < TAMANOPAGINA; ++i)
+            if ((mascara[i / 8] >> (i % 8) & 1) && (protegida || !placa.protegido_))
+                placa.memoria[direccion + i] = datos[i];
+    };
+    static constexpr auto ocupado = [](void*) -> std::uint8_t { return 0; };
+    static constexpr auto leerpagina = [](void* contexto, std::uint16_t direccion, std::uint8_t* destino) {
+        const auto& memoria = placade(contexto).memoria;
+        std::copy_n(memoria.begin() + direccion, TAMANOPAGINA, destino);
+    };
+    return {leer, escribir, escribirprotegido, desproteger, proteger, cargarpagina, ocupado, leerpagina, this};
+}
+
+// A data byte heard wrong is what the firmware receives: it stores and echoes it so. The
+// fast protocol's question gets the answer and the version of a board that has it, or the
+// echo of one that does not.
+std::string Placa::atender(unsigned char byte)
+{
+    const ::chip chip = bus();
     if (protocolo_.estado == DATOS && protocolo_.escritura && ++datosoidos == opciones.ecoerroneo) {
         byte ^= 0x01;
     }
-    return atenderbyte(&protocolo_, &bus, byte);
+    std::string respuesta(1, static_cast<char>(atenderbyte(&protocolo_, &chip, byte)));
+    if (protocolo_.estado == PASORAPIDO && opciones.lenta) {
+        volverareposo(&protocolo_);
+        respuesta.assign(1, static_cast<char>(byte));
+    } else if (protocolo_.estado == PASORAPIDO) {
+        respuesta += static_cast<char>(RAPIDOVERSION);
+        iniciarrapido(&rapido_, protocolo_.protegido);
+        enrapido = true;
+    }
+    return respuesta;
+}
+
+// The board's work after each byte, as its firmware's loop does it, until nothing is left
+// to send; the line's faults of the options on either side.
+std::string Placa::rapido(unsigned char byte)
+{
+    const ::chip chip = bus();
+    if (++oidosrapido == opciones.byteerroneo)
+        byte ^= 0x10;
+    rapidoentrada(&rapido_, byte);
+    std::string respuesta;
+    for (int quietas = 0; quietas < 2;) {
+        rapidotrabajar(&rapido_, &chip);
+        const std::int16_t dicho = rapidosalida(&rapido_, &chip);
+        if (dicho < 0) {
+            ++quietas; // a page started in one round ends in the next
+            continue;
+        }
+        quietas = 0;
+        respuesta += static_cast<char>(++dichosrapido == opciones.respuestaerronea ? dicho ^ 0x10 : dicho);
+    }
+    if (rapidoterminado(&rapido_))
+        silencio();
+    return respuesta;
 }
 
 } // namespace eeprog

@@ -11,6 +11,7 @@ bool PuertoPlaca::abrir()
         return false;
     }
     abiertopuerto = true;
+    velocidadpuerto = 9600;
     ++cuentaaperturas;
     placa.conectar();
     return true;
@@ -27,6 +28,11 @@ void PuertoPlaca::cerrar()
     ++cuentacierres;
 }
 
+void PuertoPlaca::velocidad(long baudios)
+{
+    velocidadpuerto = baudios;
+}
+
 bool PuertoPlaca::abierto() const
 {
     return abiertopuerto;
@@ -39,10 +45,9 @@ void PuertoPlaca::escribir(const std::string& datos)
     }
     enviadostotal += datos;
     for (char byte : datos) {
-        if (auto respuesta = placa.recibir(static_cast<unsigned char>(byte))) {
-            pendiente += static_cast<char>(*respuesta);
-            recibidostotal += static_cast<char>(*respuesta);
-        }
+        const std::string respuesta = placa.recibir(static_cast<unsigned char>(byte));
+        pendiente += respuesta;
+        recibidostotal += respuesta;
     }
 }
 

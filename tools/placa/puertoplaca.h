@@ -17,16 +17,18 @@ public:
 
     bool abrir() override;
     void cerrar() override;
+    void velocidad(long baudios) override;
     bool abierto() const override;
     void escribir(const std::string& datos) override;
     std::string leer() override;
     void esperar(int milisegundos) override;
 
-    int esperas() const;                  // calls of esperar, whatever they asked for
-    const std::string& enviados() const;  // every byte written while open
-    const std::string& recibidos() const; // every reply the board gave, read or not
-    int aperturas() const;                // successful opens
-    int cierres() const;                  // closes of an open port
+    int esperas() const;                             // calls of esperar, whatever they asked for
+    const std::string& enviados() const;             // every byte written while open
+    const std::string& recibidos() const;            // every reply the board gave, read or not
+    int aperturas() const;                           // successful opens
+    int cierres() const;                             // closes of an open port
+    long baudios() const { return velocidadpuerto; } // the speed asked for last
 
 private:
     Placa& placa;
@@ -38,6 +40,7 @@ private:
     int cuentaesperas = 0;
     int cuentaaperturas = 0;
     int cuentacierres = 0;
+    long velocidadpuerto = 9600;
 };
 
 } // namespace eeprog

@@ -2,8 +2,10 @@
 
 #include "placa.h"
 
+#include <time.h>
+
 #include <csignal>
-#include <ctime>
+#include <deque>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,8 +17,9 @@ namespace eeprog {
 // open is how it tells one session of the program from the next.
 class Servidor {
 public:
-    // With ritmo each reply keeps to the time a real 9600-baud line would take.
-    Servidor(Placa& placa, bool ritmo);
+    // With ritmo each byte keeps to the time a real line at the board's speed would take, in
+    // and out, and each write cycle of the chip takes ciclo microseconds.
+    Servidor(Placa& placa, bool ritmo, long ciclo = 0);
     ~Servidor();
     Servidor(const Servidor&) = delete;
     Servidor& operator=(const Servidor&) = delete;
@@ -32,19 +35,32 @@ public:
     const std::vector<long>& reacciones() const { return reacciones_; }
 
 private:
+    // A byte of a reply and when the line has carried it whole.
+    struct Saliente {
+        char byte;
+        timespec cuando;
+    };
+
     void vigilar();
     void comenzarsesion();
     bool atender(bool responder);
-    void enviar(const std::string& respuestas, const timespec& plazo);
+    void pasartiempo(const timespec& llegada);
+    void responderbyte(unsigned char byte, timespec& entrada, bool responder);
+    void enviarvencidos();
 
     Placa& placa;
     bool ritmo;
+    long ciclo;
     int maestro = -1;
     std::string esclavo;
     bool conectado = false;
     std::vector<long> reacciones_;
     std::optional<timespec> respondido_;
     std::optional<timespec> ultimo_; // the last byte heard or answered, for the board's silence
+    std::deque<Saliente> cola_;
+    timespec lineaentrada_{}; // when the line from the program is free
+    timespec lineasalida_{};  // and the line to it
+    timespec chiplibre_{};    // when the chip's last write cycle ends
 };
 
 } // namespace eeprog

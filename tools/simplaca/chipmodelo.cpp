@@ -218,6 +218,7 @@ void ChipModelo::empezarciclo()
     cargas.clear();
     estado = Estado::escribiendo;
     finciclo = finventana + ciclo;
+    ++cuentaciclos;
 }
 
 // One write cycle writes one page, the page of the first data byte: the others are lost.

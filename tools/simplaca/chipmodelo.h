@@ -45,6 +45,8 @@ public:
 
     const Memoria& memoria() const { return celdas; }
     bool protegido() const { return proteccion; }
+    // The write cycles run since power-up, stored or refused: what wears the chip.
+    int ciclos() const { return cuentaciclos; }
     // One line per fault, in the order they were seen; the board adds its own.
     const std::vector<std::string>& faltas() const { return registro; }
     void anotar(std::int64_t ahora, const std::string& texto);
@@ -81,6 +83,7 @@ private:
     bool protecciondespues = false; // the protection once the running cycle ends
     std::int64_t finventana = 0;
     std::int64_t finciclo = 0;
+    int cuentaciclos = 0;
     std::optional<std::int64_t> iniciopulso;
     std::uint16_t direccionpulso = 0;
     std::uint8_t ultimo = 0; // the last byte loaded, which DATA polling shows inverted in I/O7

@@ -15,6 +15,7 @@
 #include <csignal>
 #include <ctime>
 #include <fstream>
+#include <iomanip>
 #include <iostream>
 #include <limits>
 #include <vector>
@@ -32,33 +33,115 @@ std::int64_t reloj()
 // the host goes: past the UART's byte times and the longest write cycle, so a reply never
 // waits for real time. With nothing to do the core keeps to real time.
 constexpr std::int64_t adelanto = 50'000'000;
+// Once the board has sent a byte, the program's answer takes real time: the core then keeps
+// to the wall clock from that byte on, this little ahead, until the program's next byte, so
+// the board's own time counts the program's delay as a real board's would, and not as far
+// as the core could race meanwhile.
+constexpr std::int64_t holgura = 1'000'000;
 // The longest the core runs between two looks at the terminal.
 constexpr std::int64_t tramo = 1'000'000;
 
-bool simular(eeprog::PlacaSimulada& placa, eeprog::Puente& puente, const volatile std::sig_atomic_t& terminar)
+// The least a program takes from a byte of the board's to the first byte of its answer: a
+// UART's driver some tens of microseconds, a USB adapter a millisecond. Without it a byte
+// could reach the board at the very instant of the reply that caused it.
+constexpr std::int64_t reaccion = 20'000;
+
+bool detenida()
+{
+    std::cerr << "eeprog-simplaca: el microcontrolador se ha detenido (el firmware terminó o falló)\n";
+    return false;
+}
+
+// The board's own time and the chip's write cycles for each session of the port: from the
+// first byte heard to the last one sent.
+class Tiempos {
+public:
+    Tiempos(const std::string& ruta, const eeprog::ChipModelo& chip) : ruta(ruta), chip(chip) {}
+
+    void oido(std::int64_t ahora)
+    {
+        if (!ensesion) {
+            ensesion = true;
+            desde = hasta = ahora;
+            ciclos = chip.ciclos();
+        }
+    }
+    void dicho(std::int64_t ahora) { hasta = ahora; }
+    const std::string& archivo() const { return ruta; }
+    // False when the file cannot be written.
+    bool cerrada()
+    {
+        if (!ensesion || ruta.empty())
+            return true;
+        ensesion = false;
+        std::ofstream archivo(ruta, std::ios::app);
+        archivo << std::fixed << std::setprecision(6) << static_cast<double>(hasta - desde) / 1e9 << ' '
+                << chip.ciclos() - ciclos << '\n';
+        return static_cast<bool>(archivo);
+    }
+
+private:
+    std::string ruta;
+    const eeprog::ChipModelo& chip;
+    bool ensesion = false;
+    std::int64_t desde = 0;
+    std::int64_t hasta = 0;
+    int ciclos = 0;
+};
+
+bool simular(eeprog::PlacaSimulada& placa, eeprog::Puente& puente, Tiempos& tiempos,
+             const volatile std::sig_atomic_t& terminar)
 {
     std::int64_t anclareloj = reloj();
     std::int64_t anclasim = placa.ahora();
+    std::int64_t respondido = 0; // when the board's last byte reached the program
+    std::int64_t primero = 0;    // the board's first byte since the program's last, and its wall time
+    std::int64_t respondidoreloj = 0;
+    bool esperando = false; // the board has spoken since the program's last byte
     while (!terminar) {
         std::int64_t permitido = anclasim + (reloj() - anclareloj) + adelanto;
+        if (esperando)
+            permitido = std::min(permitido, primero + (reloj() - respondidoreloj) + holgura);
         const std::int64_t sobra = placa.ahora() - permitido;
         const std::string llegado = puente.recibir(sobra < 0 ? 0 : static_cast<int>(1 + sobra / 1'000'000));
+        placa.velocidadlinea(puente.baudios());
         if (!llegado.empty()) {
+            const std::int64_t despierta = respondido + reaccion;
+            while (placa.ahora() < despierta) {
+                if (!placa.correr(despierta))
+                    return detenida();
+                puente.enviar(placa.tomarsalida());
+            }
+            tiempos.oido(placa.ahora());
             placa.recibir(llegado);
             anclareloj = reloj();
             anclasim = placa.ahora();
             permitido = anclasim + adelanto;
+            esperando = false;
         }
-        if (placa.ahora() < permitido && !placa.correr(std::min(permitido, placa.ahora() + tramo))) {
-            std::cerr << "eeprog-simplaca: el microcontrolador se ha detenido (el firmware terminó o falló)\n";
+        if (placa.ahora() < permitido && !placa.correr(std::min(permitido, placa.ahora() + tramo)))
+            return detenida();
+        const std::string salida = placa.tomarsalida();
+        if (!salida.empty() && !esperando) {
+            primero = placa.ahora();
+            respondidoreloj = reloj();
+            esperando = true;
+        }
+        if (!salida.empty()) {
+            respondido = placa.ahora();
+            tiempos.dicho(respondido);
+        }
+        puente.enviar(salida);
+        if (!puente.conectado() && !tiempos.cerrada()) {
+            std::cerr << "eeprog-simplaca: no se pueden escribir los tiempos en " << tiempos.archivo() << '\n';
             return false;
         }
-        puente.enviar(placa.tomarsalida());
     }
     return true;
 }
 
-int servir(eeprog::PlacaSimulada& placa, const eeprog::Opciones& opciones, const volatile std::sig_atomic_t& terminar)
+int servir(eeprog::PlacaSimulada& placa, const eeprog::ChipModelo& chip, const eeprog::Opciones& opciones,
+           const volatile std::sig_atomic_t& terminar)
 {
     eeprog::Puente puente;
     if (!puente.abrir()) {
@@ -67,7 +150,8 @@ int servir(eeprog::PlacaSimulada& placa, const eeprog::Opciones& opciones, const
     }
     if (!eeprog::anunciar("eeprog-simplaca", puente.ruta(), opciones.enlace))
         return 1;
-    const bool bien = simular(placa, puente, terminar);
+    Tiempos tiempos(opciones.tiempos, chip);
+    const bool bien = simular(placa, puente, tiempos, terminar);
     if (!opciones.enlace.empty())
         eeprog::desenlazar(opciones.enlace, puente.ruta());
     return bien ? 0 : 1;
@@ -134,7 +218,7 @@ int main(int argc, char* argv[])
         return 1;
     }
     placa->oirmal(opciones->ruido);
-    const int resultado = servir(*placa, *opciones, eeprog::vigilarsenales({SIGINT, SIGTERM, SIGHUP}));
+    const int resultado = servir(*placa, chip, *opciones, eeprog::vigilarsenales({SIGINT, SIGTERM, SIGHUP}));
     // A write cycle under way finishes on the chip's own, as it would after the board stops.
     chip.avanzar(std::numeric_limits<std::int64_t>::max());
     return guardar(chip, *opciones) ? resultado : 1;

@@ -9,7 +9,7 @@ namespace eeprog {
 
 namespace {
 
-enum Clave { firmware = 1, enlace, imagen, volcado, faltas, protegido, ciclo, ayuda, muerto, estado, ruido };
+enum Clave { firmware = 1, enlace, imagen, volcado, faltas, protegido, ciclo, ayuda, muerto, estado, ruido, tiempos };
 
 const option claves[] = {
     {"firmware", required_argument, nullptr, firmware},
@@ -19,6 +19,7 @@ const option claves[] = {
     {"faltas", required_argument, nullptr, faltas},
     {"protegido", no_argument, nullptr, protegido},
     {"ciclo", required_argument, nullptr, ciclo},
+    {"tiempos", required_argument, nullptr, tiempos},
     {"ayuda", no_argument, nullptr, ayuda},
     {"help", no_argument, nullptr, ayuda},
     {"chip-muerto", no_argument, nullptr, muerto},
@@ -59,6 +60,9 @@ bool tomar(int clave, const char* valor, Opciones& opciones)
         return true;
     case estado:
         opciones.estado = valor;
+        return true;
+    case tiempos:
+        opciones.tiempos = valor;
         return true;
     case ruido:
         if (const auto numero = numeroentre(valor, 1, std::numeric_limits<long>::max())) {
@@ -115,6 +119,10 @@ std::string usosimulada()
            "                       según la protección de datos del chip\n"
            "  --ruido N            el N-ésimo byte del programa llega con error de\n"
            "                       trama, como lo dejaría el ruido en la línea\n"
+           "  --tiempos ARCHIVO    al acabar cada sesión del puerto, añade una línea:\n"
+           "                       los segundos de la placa desde el primer byte que\n"
+           "                       oyó hasta el último que envió, y los ciclos de\n"
+           "                       escritura que hizo el chip en ella\n"
            "  --ayuda, --help      muestra esta ayuda\n";
 }
 

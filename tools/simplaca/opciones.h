@@ -14,6 +14,7 @@ struct Opciones {
     std::string volcado;
     std::string faltas;
     std::string estado;
+    std::string tiempos;
     bool protegido = false;
     bool muerto = false;
     std::int64_t ciclo = 1000; // the chip's write cycle, in microseconds

@@ -25,6 +25,10 @@ constexpr std::uint8_t pinwe = 0x10; // PD4
 constexpr std::uint8_t altas = 0x1F; // A8-A12 on PB0-PB4
 constexpr std::uint16_t pina = 0x39; // in the data space: I/O address 0x19
 constexpr char uart = '0';
+constexpr std::uint16_t ubrrl = 0x29; // I/O 0x09
+constexpr std::uint16_t ubrrh = 0x40; // I/O 0x20, shared with UCSRC
+constexpr std::uint16_t ucsra = 0x2B; // I/O 0x0B
+constexpr std::uint8_t u2x = 0x02;
 
 // simavr's own chatter would mix with the terminal's path on standard output; only its
 // errors are worth showing, and on the error output.
@@ -123,6 +127,7 @@ void PlacaSimulada::conectar()
     avr_irq_register_notify(avr_io_getirq(avr, AVR_IOCTL_IOPORT_GETIRQ('A'), IOPORT_IRQ_DIRECTION_ALL), aldireccion,
                             this);
     engancharpina();
+    engancharbaudios();
     // No console echo, and no sleeping in the core while the firmware polls its UART: the
     // simulation is paced from outside.
     std::uint32_t banderas = 0;
@@ -147,10 +152,22 @@ void PlacaSimulada::engancharpina()
     lectura.param = this;
 }
 
+// simavr times the UART's bytes as eleven bits, a parity bit that 8N1 does not have among
+// them; the line's byte is ten, start and stop with the eight. Its hook on UBRRL sets the
+// time, so the board's hook runs it and then puts the time right.
+void PlacaSimulada::engancharbaudios()
+{
+    auto& escritura = avr->io[AVR_DATA_TO_IO(ubrrl)].w;
+    escribirbaudios = escritura.c;
+    uartsimavr = escritura.param;
+    escritura.c = albaudios;
+    escritura.param = this;
+}
+
 bool PlacaSimulada::correr(std::int64_t hasta)
 {
     const std::uint64_t final = ciclos(hasta);
-    while (avr->cycle < final && salida.empty()) {
+    while (avr->cycle < final && (salida.empty() || salida.front().fin > ahora())) {
         const int estadocore = avr_run(avr);
         if (estadocore == cpu_Done || estadocore == cpu_Crashed)
             return false;
@@ -172,7 +189,8 @@ void PlacaSimulada::recibir(const std::string& bytes)
 std::string PlacaSimulada::tomarsalida()
 {
     std::string enviado;
-    enviado.swap(salida);
+    for (; !salida.empty() && salida.front().fin <= ahora(); salida.pop_front())
+        enviado += salida.front().byte;
     return enviado;
 }
 
@@ -210,7 +228,8 @@ void PlacaSimulada::entregar()
     while (admite && !pendientes.empty()) {
         const std::uint32_t byte = pendientes.front();
         pendientes.pop_front();
-        avr_raise_irq(entrada, ++oidos == ruido ? byte | UART_INPUT_FE : byte);
+        const bool malo = ++oidos == ruido || baudiosuart != baudioslinea;
+        avr_raise_irq(entrada, malo ? byte | UART_INPUT_FE : byte);
     }
 }
 
@@ -236,6 +255,19 @@ std::uint8_t PlacaSimulada::alleer(avr_t* avr, std::uint16_t direccion, void* pl
     return esta->leerbus(puerto);
 }
 
+void PlacaSimulada::albaudios(avr_t* avr, std::uint16_t direccion, std::uint8_t valor, void* placa)
+{
+    auto* esta = static_cast<PlacaSimulada*>(placa);
+    if (esta->escribirbaudios)
+        esta->escribirbaudios(avr, direccion, valor, esta->uartsimavr);
+    else
+        avr->data[direccion] = valor;
+    const std::uint32_t divisor = (avr->data[ubrrl] | (avr->data[ubrrh] & 0x0F) << 8) + 1;
+    const std::uint32_t ciclosbit = divisor * ((avr->data[ucsra] & u2x) != 0 ? 8 : 16);
+    static_cast<avr_uart_t*>(esta->uartsimavr)->cycles_per_byte = ciclosbit * 10;
+    esta->baudiosuart = static_cast<long>(frecuencia / ciclosbit);
+}
+
 void PlacaSimulada::alpuerto(avr_irq_t*, std::uint32_t, void* placa)
 {
     static_cast<PlacaSimulada*>(placa)->cambiopatas();
@@ -250,7 +282,13 @@ void PlacaSimulada::aldireccion(avr_irq_t*, std::uint32_t valor, void* placa)
 
 void PlacaSimulada::alenviar(avr_irq_t*, std::uint32_t valor, void* placa)
 {
-    static_cast<PlacaSimulada*>(placa)->salida += static_cast<char>(valor & 0xFF);
+    auto* esta = static_cast<PlacaSimulada*>(placa);
+    if (esta->baudiosuart == 0)
+        return;
+    const std::int64_t fin = std::max(esta->ahora(), esta->lineaocupada) + 10 * 1'000'000'000LL / esta->baudiosuart;
+    esta->lineaocupada = fin;
+    if (esta->baudiosuart == esta->baudioslinea)
+        esta->salida.push_back({static_cast<char>(valor & 0xFF), fin});
 }
 
 void PlacaSimulada::alxon(avr_irq_t*, std::uint32_t, void* placa)

@@ -26,24 +26,30 @@ public:
     PlacaSimulada(const PlacaSimulada&) = delete;
     PlacaSimulada& operator=(const PlacaSimulada&) = delete;
 
-    // Runs the core until its clock reaches hasta, in nanoseconds since power-up, or until the
-    // firmware has sent a byte, which should not wait. False once the core has stopped for
+    // Runs the core until its clock reaches hasta, in nanoseconds since power-up, or until a
+    // byte the firmware sent has left the line, which should not wait. False once the core has stopped for
     // good (a crash, or a firmware that ended).
     bool correr(std::int64_t hasta);
     std::int64_t ahora() const;
 
     // Bytes from the program, handed to the UART as fast as its receiver takes them.
     void recibir(const std::string& bytes);
+    // The speed the program's end of the line is set to. A byte sent at another speed than
+    // the UART's arrives as noise, with a framing error, and the UART's bytes do not reach
+    // the program.
+    void velocidadlinea(long baudios) { baudioslinea = baudios; }
     // The nth byte from the program, counted from 1 over the board's life, arrives with a
     // framing error, as noise on the line would leave it.
     void oirmal(long enesimo) { ruido = enesimo; }
-    // The firmware's bytes sent since the last call.
+    // The firmware's bytes that have left the line since the last call: each takes ten bit
+    // times from the moment the UART starts it.
     std::string tomarsalida();
 
 private:
     PlacaSimulada(avr_t* avr, ChipModelo& chip, std::int64_t encendido);
     void conectar();
     void engancharpina();
+    void engancharbaudios();
     Patas leerpatas() const;
     void cambiopatas();
     std::uint8_t leerbus(std::uint8_t puerto);
@@ -52,6 +58,7 @@ private:
     std::uint64_t ciclos(std::int64_t nanosegundos) const;
 
     static std::uint8_t alleer(avr_t* avr, std::uint16_t direccion, void* placa);
+    static void albaudios(avr_t* avr, std::uint16_t direccion, std::uint8_t valor, void* placa);
     static void alpuerto(avr_irq_t* irq, std::uint32_t valor, void* placa);
     static void aldireccion(avr_irq_t* irq, std::uint32_t valor, void* placa);
     static void alenviar(avr_irq_t* irq, std::uint32_t valor, void* placa);
@@ -64,13 +71,22 @@ private:
     std::int64_t encendido;
     std::uint8_t (*leerpina)(avr_t*, std::uint16_t, void*) = nullptr; // the port's own
     void* puertoa = nullptr;
+    void (*escribirbaudios)(avr_t*, std::uint16_t, std::uint8_t, void*) = nullptr; // the UART's own
+    void* uartsimavr = nullptr;
     avr_irq_t* entrada = nullptr;
     std::uint8_t ddra = 0; // port A's direction as just written: the register lags its hook
     std::deque<std::uint8_t> pendientes;
     bool admite = false; // the receiver has room (simavr's xon)
+    long baudiosuart = 0;
+    long baudioslinea = 0;
     long oidos = 0;
     long ruido = 0;
-    std::string salida;
+    struct Saliente {
+        char byte;
+        std::int64_t fin;
+    };
+    std::deque<Saliente> salida;
+    std::int64_t lineaocupada = 0; // when the UART's last byte leaves the line
 };
 
 } // namespace eeprog

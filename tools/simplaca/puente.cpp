@@ -31,15 +31,30 @@ std::string Puente::recibir(int milisegundos)
     char llegado[256];
     const ssize_t leidos = (vigilado.revents & POLLIN) != 0 ? read(maestro, llegado, sizeof llegado) : 0;
     if (leidos > 0) {
-        if (!conectado)
+        if (!conectado_)
             tcflush(maestro, TCOFLUSH);
-        conectado = (vigilado.revents & POLLHUP) == 0;
+        conectado_ = (vigilado.revents & POLLHUP) == 0;
         return std::string(llegado, static_cast<std::size_t>(leidos));
     }
-    conectado = false;
+    conectado_ = false;
     const timespec pausa{0, static_cast<long>(milisegundos) * 1'000'000};
     nanosleep(&pausa, nullptr);
     return {};
+}
+
+long Puente::baudios() const
+{
+    termios ajustes{};
+    if (tcgetattr(maestro, &ajustes) != 0)
+        return 0;
+    switch (cfgetospeed(&ajustes)) {
+    case B9600:
+        return 9600;
+    case B115200:
+        return 115200;
+    default:
+        return 0;
+    }
 }
 
 // A signal cuts the write short; what is left then no longer matters.

@@ -21,11 +21,15 @@ public:
     // What the program has sent, waiting up to milisegundos for it; empty when nothing came.
     std::string recibir(int milisegundos);
     void enviar(const std::string& datos);
+    // The speed the program has set on its side of the terminal, in baud.
+    long baudios() const;
+    // Someone has the terminal open and has spoken in it since it was last closed.
+    bool conectado() const { return conectado_; }
 
 private:
     int maestro = -1;
     std::string esclavo;
-    bool conectado = false;
+    bool conectado_ = false;
 };
 
 } // namespace eeprog
