@@ -33,6 +33,11 @@ Opciones:
                         estándar)
   --formato hex|bin     el formato del archivo, en vez de su nombre
   --verificar           con grabar: verifica el chip después
+  --solo-cambios        con grabar: lee antes el chip y graba solo las páginas de
+                        64 bytes en que difiere del archivo
+  --lento               el protocolo de 9600 baudios aunque la placa tenga el
+                        rápido (115200 baudios, por bloques y páginas)
+  -v, --detalles        dice con qué protocolo se habló con la placa
   --como-ventana        con grabar y verificar: lee el archivo como la ventana
   -q, --silencioso      sin barra de progreso ni resumen; los errores se dicen
   --version             muestra la versión
@@ -47,15 +52,18 @@ Estado de salida:
   130  interrumpido con Ctrl+C: el puerto se cierra y no queda archivo a medias
 )";
 
-enum Clave { puerto = 1, formato, verificar, comoventana, version };
+enum Clave { puerto = 1, formato, verificar, comoventana, version, lento, solocambios };
 
-const std::array<option, 10> largas{{
+const std::array<option, 13> largas{{
     {"puerto", required_argument, nullptr, puerto},
     {"salida", required_argument, nullptr, 'o'},
     {"formato", required_argument, nullptr, formato},
     {"verificar", no_argument, nullptr, verificar},
     {"como-ventana", no_argument, nullptr, comoventana},
     {"silencioso", no_argument, nullptr, 'q'},
+    {"lento", no_argument, nullptr, lento},
+    {"solo-cambios", no_argument, nullptr, solocambios},
+    {"detalles", no_argument, nullptr, 'v'},
     {"version", no_argument, nullptr, version},
     {"ayuda", no_argument, nullptr, 'h'},
     {"help", no_argument, nullptr, 'h'},
@@ -95,6 +103,10 @@ std::optional<std::string> incompatible(const Opciones& o, bool consalida)
         return "-o solo va con leer";
     if (o.verificar && o.orden != Orden::grabar)
         return "--verificar solo va con grabar";
+    if (o.solocambios && o.orden != Orden::grabar)
+        return "--solo-cambios solo va con grabar";
+    if (o.solocambios && o.comoventana)
+        return "--solo-cambios no va con --como-ventana, que graba como la ventana";
     if (o.comoventana && !conarchivo)
         return "--como-ventana solo va con grabar y verificar";
     if (o.comoventana && o.formato == Formato::bin)
@@ -132,7 +144,7 @@ std::variant<Opciones, Respuesta> interpretar(int argc, char* argv[])
     bool consalida = false;
     opterr = 0; // getopt's own messages are not in Spanish
     optind = 0; // not 1: glibc then also forgets a scan an earlier call left in the middle of a word
-    for (int clave = 0; (clave = getopt_long(argc, argv, ":o:qh", largas.data(), nullptr)) != -1;) {
+    for (int clave = 0; (clave = getopt_long(argc, argv, ":o:qvh", largas.data(), nullptr)) != -1;) {
         const std::string valor = optarg ? optarg : "";
         switch (clave) {
         case puerto:
@@ -155,6 +167,15 @@ std::variant<Opciones, Respuesta> interpretar(int argc, char* argv[])
             break;
         case 'q':
             o.silencioso = true;
+            break;
+        case 'v':
+            o.detalles = true;
+            break;
+        case lento:
+            o.lento = true;
+            break;
+        case solocambios:
+            o.solocambios = true;
             break;
         case version:
             return Respuesta{salida::hecho, "eeprog-cli " EEPROG_VERSION "\n"};

@@ -18,6 +18,9 @@ struct Opciones {
     bool verificar = false;
     bool comoventana = false;
     bool silencioso = false;
+    bool lento = false;       // the old protocol at 9600 baud, even with a board that has the fast one
+    bool solocambios = false; // grabar writes only the pages that differ from the file
+    bool detalles = false;    // -v: says which protocol the run used
 };
 
 // A run that ends at the command line: the text for standard output (help, version) or for

@@ -4,6 +4,8 @@
 #include "cli/interrupcion.h"
 #include "cli/marcatrama.h"
 #include "cli/salida.h"
+#include "device/canallento.h"
+#include "device/canalrapido.h"
 #include "device/lectura.h"
 #include "device/proteccion.h"
 #include "device/verificacion.h"
@@ -16,6 +18,7 @@
 #include <algorithm>
 #include <chrono>
 #include <memory>
+#include <set>
 #include <thread>
 
 namespace eeprog {
@@ -27,7 +30,7 @@ namespace {
 struct PlacaCallada {};
 
 // The board's idle time, and some more for a byte still on its way when the last run ended.
-constexpr std::chrono::milliseconds esperareposo{protocolo::reposo * 6 / 5};
+constexpr std::chrono::milliseconds esperareposo{protocolo::reposo * 7 / 5};
 
 // A Ctrl+C meanwhile ends the run before it has sent anything.
 void esperarreposo()
@@ -64,7 +67,7 @@ std::vector<Trama> chipborrado()
 } // namespace
 
 Programador::Programador(Puerto& puerto, std::string dispositivo, const Opciones& opciones, Terminal terminal)
-    : enlace_(puerto), dispositivo_(std::move(dispositivo)), opciones_(opciones), terminal_(terminal)
+    : enlace_(puerto), rapido_(puerto), dispositivo_(std::move(dispositivo)), opciones_(opciones), terminal_(terminal)
 {}
 
 int Programador::ejecutar()
@@ -105,7 +108,7 @@ int Programador::leer()
         return salida::archivo;
     }
     auto leido = std::make_unique<Leido>();
-    const int estado = conplaca([&] {
+    const int estado = conchip([&] {
         leerentero(*leido);
         return salida::hecho;
     });
@@ -121,9 +124,11 @@ int Programador::leer()
 int Programador::grabar()
 {
     return conarchivo([this](const std::vector<Trama>& tramas) {
+        if (opciones_.solocambios)
+            return grabarcambios(tramas);
         if (!opciones_.verificar)
             return escribir(tramas, "Grabando");
-        const auto antes = comparartramas(enlace_, {tramas.front()}, {[](int) {}});
+        const auto antes = canal_->comparar({tramas.front()}, {[](int) {}});
         const int escrito = escribir(tramas, "Grabando");
         const auto despues = diferencias(tramas);
         if (despues.empty())
@@ -135,9 +140,42 @@ int Programador::grabar()
         };
         if (!antes.empty() && std::all_of(antes.begin(), antes.end(), igual))
             error("el chip no ha cambiado donde se grabó: revise que esté bien puesto en el zócalo; si la placa "
-                  "lleva un programa anterior y el chip tiene la protección de escritura, eeprog-cli desproteger la quita");
+                  "lleva un programa anterior y el chip tiene la protección de escritura, eeprog-cli desproteger la "
+                  "quita");
         return salida::distinto;
     });
+}
+
+// The chip is read first; then only the pages where it differs from the file are written,
+// with the file's bytes of those pages.
+int Programador::grabarcambios(const std::vector<Trama>& tramas)
+{
+    auto leido = std::make_unique<Leido>();
+    leerentero(*leido);
+    const auto cadabyte = [&](const auto& hacer) {
+        for (const Trama& trama : tramas)
+            for (int k = 0; k < trama.datos(); ++k)
+                hacer(static_cast<std::size_t>((trama.direccion() + k) % protocolo::tamanochip),
+                      static_cast<std::uint8_t>(trama.valores[static_cast<std::size_t>(4 + k)]));
+    };
+    std::set<std::size_t> paginas;
+    cadabyte([&](std::size_t direccion, std::uint8_t valor) {
+        if (valor != leido->vectorleido[direccion])
+            paginas.insert(direccion / rapido::tamanopagina);
+    });
+    Imagen cambios;
+    cadabyte([&](std::size_t direccion, std::uint8_t valor) {
+        if (paginas.count(direccion / rapido::tamanopagina) != 0) {
+            cambios.bytes[direccion] = valor;
+            cambios.dado.set(direccion);
+        }
+    });
+    int estado = paginas.empty() ? salida::hecho : escribir(tramasdeimagen(cambios), "Grabando");
+    if (estado == salida::hecho && opciones_.verificar && !diferencias(tramas).empty())
+        estado = salida::distinto;
+    resumen(cuenta(paginas.size(), "página grabada", "páginas grabadas") + " de " +
+            std::to_string(protocolo::tamanochip / rapido::tamanopagina) + ": las que diferían del archivo");
+    return estado;
 }
 
 int Programador::verificar()
@@ -147,13 +185,13 @@ int Programador::verificar()
 
 int Programador::borrar()
 {
-    return conplaca([this] { return escribir(chipborrado(), "Borrando"); });
+    return conchip([this] { return escribir(chipborrado(), "Borrando"); });
 }
 
 int Programador::vacio()
 {
     auto leido = std::make_unique<Leido>();
-    return conplaca([&] {
+    return conchip([&] {
         leerentero(*leido);
         const auto& bytes = leido->vectorleido;
         const auto lleno = std::find_if(bytes.begin(), bytes.begin() + protocolo::tamanochip,
@@ -170,7 +208,7 @@ int Programador::vacio()
 
 // The board is known idle when the port closes after the last frame's end, or an interruption
 // thrown there; then the next run needs no wait.
-int Programador::conplaca(const std::function<int()>& operacion)
+int Programador::conplaca(const std::function<int()>& operacion, bool condatos)
 {
     if (!enlace_.serial()) {
         error("no se puede abrir el dispositivo " + dispositivo_);
@@ -188,8 +226,10 @@ int Programador::conplaca(const std::function<int()>& operacion)
         marca.poner();
         hablado = true;
         if (comprobarconexion(enlace_)) {
+            if (condatos)
+                elegircanal();
             estado = operacion();
-            enreposo = true;
+            enreposo = !canal_ || canal_->terminar();
         } else {
             error(dispositivo_ + ": Programador..... NO EXISTE CONECCION");
         }
@@ -206,11 +246,21 @@ int Programador::conplaca(const std::function<int()>& operacion)
         terminal_.progreso.terminar();
         error(dispositivo_ + ": la placa dejó de responder");
         estado = salida::sinplaca;
+    } catch (const LineaRota&) {
+        terminal_.progreso.terminar();
+        error(dispositivo_ + ": la placa dejó de responder o cada trama llegó mal");
+        estado = salida::sinplaca;
     }
     enlace_.cerrar();
     if (enreposo)
         marca.quitar();
     return estado;
+}
+
+// The orders that move the chip's bytes, by the protocol the board is asked for.
+int Programador::conchip(const std::function<int()>& operacion)
+{
+    return conplaca(operacion, true);
 }
 
 // The file is read and judged whole before the board hears a byte.
@@ -221,12 +271,42 @@ int Programador::conarchivo(const std::function<int(const std::vector<Trama>&)>&
         error(*motivo);
         return salida::archivo;
     }
-    return conplaca([&] { return operacion(std::get<std::vector<Trama>>(tramas)); });
+    return conchip([&] { return operacion(std::get<std::vector<Trama>>(tramas)); });
+}
+
+// The fast protocol when the board has it and the run does not ask for the old one. A board
+// that echoes the question or says nothing is an older one; one whose first fast exchange
+// fails is back at 9600 after its idle time, and is checked again before the old protocol.
+void Programador::elegircanal()
+{
+    canal_ = std::make_unique<CanalLento>(enlace_);
+    if (opciones_.lento) {
+        detalle(canal_->nombre() + ", como se pidió con --lento");
+        return;
+    }
+    const auto version = rapido_.preguntar();
+    if (!version) {
+        detalle(canal_->nombre() + ": la placa no tiene el protocolo rápido");
+        return;
+    }
+    rapido_.velocidad(rapido::baudios);
+    auto rapida = std::make_unique<CanalRapido>(rapido_);
+    if (rapida->saludar()) {
+        detalle(rapida->nombre() + ", versión " + std::to_string(*version) + " de la placa");
+        canal_ = std::move(rapida);
+        return;
+    }
+    rapido_.velocidad(rapido::baudioslentos);
+    esperarreposo();
+    enlace_.descartar();
+    if (!comprobarconexion(enlace_))
+        throw PlacaCallada{};
+    detalle(canal_->nombre() + ": el primer intercambio rápido falló");
 }
 
 void Programador::leerentero(Leido& leido)
 {
-    leerchip(enlace_, leido, avance("Leyendo", protocolo::tamanochip));
+    canal_->leer(leido, avance("Leyendo", protocolo::tamanochip));
     terminal_.progreso.terminar();
 }
 
@@ -251,7 +331,7 @@ Avance Programador::avance(const std::string& accion, int total)
 int Programador::escribir(const std::vector<Trama>& tramas, const std::string& accion)
 {
     const int bytes = bytesde(tramas);
-    const auto ecos = escribirtramas(enlace_, tramas, avance(accion, bytes));
+    const auto ecos = canal_->escribir(tramas, avance(accion, bytes));
     terminal_.progreso.terminar();
     for (const Diferencia& eco : ecos)
         resultado("El dato transmitido " + doscifras(eco.esperado) + " no se ha recibido correctamente: Direccion = " +
@@ -274,7 +354,7 @@ int Programador::comparar(const std::vector<Trama>& tramas)
 std::vector<Diferencia> Programador::diferencias(const std::vector<Trama>& tramas)
 {
     const int bytes = bytesde(tramas);
-    auto halladas = comparartramas(enlace_, tramas, avance("Verificando", bytes));
+    auto halladas = canal_->comparar(tramas, avance("Verificando", bytes));
     terminal_.progreso.terminar();
     for (const Diferencia& d : halladas)
         resultado("Error.. " + diferencia(d.direccion, d.esperado, d.obtenido));
@@ -326,6 +406,13 @@ void Programador::error(const std::string& mensaje)
 void Programador::resultado(const std::string& mensaje)
 {
     std::fprintf(terminal_.resultados, "%s\n", mensaje.c_str());
+}
+
+// What -v asks for, on the error output beside the progress bar.
+void Programador::detalle(const std::string& mensaje)
+{
+    if (opciones_.detalles)
+        std::fprintf(terminal_.errores, "eeprog-cli: %s\n", mensaje.c_str());
 }
 
 // The lines that say all went right; -q leaves them out.

@@ -2,13 +2,16 @@
 
 #include "cli/opciones.h"
 #include "cli/progreso.h"
+#include "device/canal.h"
 #include "device/leido.h"
 #include "device/tramas.h"
 #include "link/enlace.h"
+#include "link/rapido.h"
 #include "link/puerto.h"
 
 #include <cstdio>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -41,7 +44,11 @@ private:
     int vacio();
     int proteccion(bool proteger);
 
-    int conplaca(const std::function<int()>& operacion);
+    int grabarcambios(const std::vector<Trama>& tramas);
+
+    int conplaca(const std::function<int()>& operacion, bool condatos = false);
+    int conchip(const std::function<int()>& operacion);
+    void elegircanal();
     int conarchivo(const std::function<int(const std::vector<Trama>&)>& operacion);
     void leerentero(Leido& leido);
     Avance avance(const std::string& accion, int total);
@@ -53,8 +60,11 @@ private:
     void error(const std::string& mensaje);
     void resultado(const std::string& mensaje);
     void resumen(const std::string& mensaje);
+    void detalle(const std::string& mensaje);
 
     Enlace enlace_;
+    EnlaceRapido rapido_;
+    std::unique_ptr<Canal> canal_; // the protocol of the orders that move the chip's bytes
     std::string dispositivo_;
     const Opciones& opciones_;
     Terminal terminal_;

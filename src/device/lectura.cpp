@@ -21,6 +21,22 @@ void cabecera(Enlace& enlace, int alta, int baja)
 
 } // namespace
 
+// The low byte of the two's complement of the sum: the Intel HEX checksum.
+std::string linealeida(const Leido& leido, int bloque)
+{
+    const int direccion = bloque * protocolo::tamanobloque;
+    const int alta = protocolo::direccionalta(direccion);
+    const int baja = protocolo::direccionbaja(direccion);
+    int suma = protocolo::tamanobloque + alta + baja + protocolo::tipodatos;
+    std::string linea = ":10" + doscifras(alta) + doscifras(baja) + "00";
+    for (int k = 0; k < protocolo::tamanobloque; ++k) {
+        const int valor = leido.vectorleido[static_cast<std::size_t>(direccion + k)];
+        suma += valor;
+        linea += doscifras(valor);
+    }
+    return linea + doscifras(-suma & 0xFF) + std::string(saltolinea);
+}
+
 void leerchip(Enlace& enlace, Leido& leido, const Avance& avance)
 {
     int cuenta = 0;
@@ -32,17 +48,12 @@ void leerchip(Enlace& enlace, Leido& leido, const Avance& avance)
         const int alta = protocolo::direccionalta(direccion);
         const int baja = protocolo::direccionbaja(direccion);
         cabecera(enlace, alta, baja);
-        int suma = protocolo::tamanobloque + alta + baja + protocolo::tipodatos;
-        std::string linea = ":10" + doscifras(alta) + doscifras(baja) + "00";
         for (int k = 0; k < protocolo::tamanobloque; ++k) {
             const int valor = protocolo::valorde(enlace.intercambio(protocolo::dato(k)));
-            suma += valor;
             leido.vectorleido[static_cast<std::size_t>(cuenta++)] = static_cast<std::int16_t>(valor);
-            linea += doscifras(valor);
             avance.dato(cuenta);
         }
-        // The low byte of the two's complement of the sum: the Intel HEX checksum.
-        leido.textoleido += linea + doscifras(-suma & 0xFF) + std::string(saltolinea);
+        leido.textoleido += linealeida(leido, bloque);
         avance.trama();
     }
 }

@@ -13,6 +13,9 @@ namespace eeprog {
 // goes on to its end whatever it meets. The port must be open and the board checked.
 void lectura(Enlace& enlace, Leido& leido, PantallaOperacion pantalla);
 
+// The Intel HEX line of a block of 16 bytes of vectorleido, as a read writes it in textoleido.
+std::string linealeida(const Leido& leido, int bloque);
+
 // The same read with nothing shown but the count of bytes read, after each byte, and the end
 // of each frame.
 void leerchip(Enlace& enlace, Leido& leido, const Avance& avance);

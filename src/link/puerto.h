@@ -16,6 +16,9 @@ public:
     virtual void cerrar() = 0;
     virtual bool abierto() const = 0;
 
+    // The line's speed from now on, for the fast protocol and back; each open starts at 9600.
+    virtual void velocidad(long baudios) = 0;
+
     // Puts the whole text on the line. A closed port sends nothing.
     virtual void escribir(const std::string& datos) = 0;
 

@@ -9,6 +9,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <regex>
 
 namespace eeprog::prueba {
 namespace {
@@ -113,34 +114,51 @@ INSTANTIATE_TEST_SUITE_P(, OrdenPlaca,
                                          Tablero{"simulada10ms", EEPROG_SIMPLACA, {"--ciclo", "10000"}}),
                          [](const auto& info) { return std::string(info.param.nombre); });
 
-// Every shape of file leaves on the chip the bytes it gives, and nothing else; the rest of an
-// erased chip stays FF.
+// Every shape of file leaves on the chip the bytes it gives, and nothing else, by the fast
+// protocol and by the old one; the rest of an erased chip stays FF. The whole chip by the
+// old protocol is tried on the emulator alone, where it takes no longer than the rest.
 TEST_P(OrdenPlaca, ProgrammingAndVerifyingLeaveTheChipTheFileGives)
 {
     Chip chip;
     azar(chip, 7);
     Chip disperso;
     disperso.fill(0xFF), disperso[0x100] = 0xAA, disperso[0x101] = 0xBB, disperso[0x102] = 0xCC;
+    Chip tramos;
+    tramos.fill(0xFF), tramos[0x3E] = 1, tramos[0x3F] = 2, tramos[0x40] = 3, tramos[0x41] = 4;
+    tramos[0x7F] = 5, tramos[0x80] = 6;
+    const std::string atraviesan = escribir(":04003E0001020304B4\n:02007F00050674\n:00000001FF\n", "tramos.hex");
     const struct {
         const char* nombre;
         std::string archivo;
         const Chip& esperado;
+        bool lento = false;
     } filas[] = {
         {"Intel HEX", escribir(lineashex(chip) + ":00000001FF\r\n", "chip.hex"), chip},
-        {"raw image", imagen(chip), chip},
+        {"raw image, 9600 baud", imagen(chip), chip, true},
         {"sparse S-records, LF", escribir("S1060100AABBCCC7\nS9030000FC\n", "poco.s19"), disperso},
+        {"records across pages", atraviesan, tramos},
+        {"records across pages, 9600 baud", atraviesan, tramos, true},
     };
     for (const auto& fila : filas) {
         SCOPED_TRACE(fila.nombre);
+        if (fila.lento && fila.esperado == chip && simulada())
+            continue;
         const auto tablero = placa({"--volcado", carpeta + "/volcado.bin"});
-        const Corrida corrida = correr({"--puerto", tablero->ruta(), "grabar", fila.archivo, "--verificar"});
+        std::vector<std::string> palabras{"-v", "--puerto", tablero->ruta(), "grabar", fila.archivo, "--verificar"};
+        if (fila.lento)
+            palabras.push_back("--lento");
+        const Corrida corrida = correr(palabras);
         EXPECT_EQ(corrida.estado, 0) << corrida.errores;
         EXPECT_NE(corrida.salida.find(", 0 diferencias\n"), std::string::npos) << corrida.salida;
+        EXPECT_EQ(corrida.errores.find(fila.lento ? "eeprog-cli: protocolo de 9600" : "eeprog-cli: protocolo rápido"),
+                  0u)
+            << corrida.errores;
         terminar(*tablero);
         EXPECT_EQ(leer("volcado.bin"), std::string(fila.esperado.begin(), fila.esperado.end()));
     }
 }
 
+// By either protocol, the same difference in the same line.
 TEST_F(OrdenCli, AChangedByteOrAWrongEchoExitsOneNamingItsAddress)
 {
     Chip chip;
@@ -149,18 +167,78 @@ TEST_F(OrdenCli, AChangedByteOrAWrongEchoExitsOneNamingItsAddress)
     Chip cambiado = chip;
     cambiado[0x123] ^= 0x40;
     Emulador placa({"--imagen", escribir(std::string(cambiado.begin(), cambiado.end()), "cambiado.bin")});
-    const Corrida corrida = correr({"--puerto", placa.ruta(), "verificar", archivo});
-    EXPECT_EQ(corrida.estado, 1);
     char linea[64];
     std::snprintf(linea, sizeof linea, "Error.. Direccion = 0123  Buffer = %02X   Leido = %02X\n", chip[0x123],
                   cambiado[0x123]);
-    EXPECT_EQ(corrida.salida, linea + std::string("8192 bytes verificados, 1 diferencia\n"));
+    for (const char* protocolo : {"--detalles", "--lento"}) {
+        const Corrida corrida = correr({protocolo, "--puerto", placa.ruta(), "verificar", archivo});
+        EXPECT_EQ(corrida.estado, 1);
+        EXPECT_EQ(corrida.salida, linea + std::string("8192 bytes verificados, 1 diferencia\n"));
+    }
 
-    Emulador sordo({"--eco-erroneo", "3"});
+    Emulador sordo({"--eco-erroneo", "3", "--lenta"});
     const Corrida eco = correr({"--puerto", sordo.ruta(), "grabar", escribir(":0300100041424327\n", "abc.hex")});
     EXPECT_EQ(eco.estado, 1);
     EXPECT_EQ(eco.salida.find("El dato transmitido 43 no se ha recibido correctamente: Direccion = 0012"), 0u)
         << eco.salida;
+}
+
+// A byte changed on the line either way is caught by the CRC, a byte lost makes its frame
+// go again, and the chip ends as the file says. A board with an older firmware echoes the
+// fast protocol's question, and the run goes on by the old one, as it does when the first
+// exchange at the new speed fails.
+TEST_P(OrdenPlaca, AFaultyLineOrAnOlderBoardStillLeaveTheChipTheFileGives)
+{
+    Chip chip;
+    azar(chip, 10);
+    const std::string archivo = imagen(chip);
+    const struct {
+        const char* nombre;
+        std::vector<std::string> opciones;
+        bool simulada;
+        const char* protocolo = "rápido";
+    } filas[] = {
+        {"a page frame heard wrong", {"--byte-erroneo", "300"}, false},
+        {"a page's reply sent wrong", {"--respuesta-erronea", "140"}, false},
+        {"a block sent wrong", {"--respuesta-erronea", "5000"}, false},
+        {"an older board", {"--lenta"}, false, "de 9600"},
+        {"the first fast exchange heard wrong", {"--byte-erroneo", "1"}, false, "de 9600"},
+        {"a byte lost in a page frame", {"--ruido", "300"}, true},
+    };
+    for (const auto& fila : filas) {
+        SCOPED_TRACE(fila.nombre);
+        if (fila.simulada != simulada())
+            continue;
+        auto opciones = fila.opciones;
+        opciones.insert(opciones.end(), {"--volcado", carpeta + "/volcado.bin"});
+        const auto tablero = placa(opciones);
+        const Corrida corrida = correr({"-v", "--puerto", tablero->ruta(), "grabar", archivo, "--verificar"});
+        EXPECT_EQ(corrida.estado, 0) << corrida.errores;
+        EXPECT_EQ(corrida.errores.find("eeprog-cli: protocolo " + std::string(fila.protocolo)), 0u) << corrida.errores;
+        terminar(*tablero);
+        EXPECT_EQ(leer("volcado.bin"), std::string(chip.begin(), chip.end()));
+    }
+}
+
+// The window speaks only the old protocol: after a fast session, and after one cut short by
+// a program killed in the middle of a read, the board is idle at 9600 again, at once or
+// after its idle time (which the run after a killed one waits out).
+TEST_P(OrdenPlaca, AfterAFastSessionWholeOrCutTheOldProtocolFindsTheBoardIdle)
+{
+    Chip chip;
+    azar(chip, 11);
+    const std::string esperado(chip.begin(), chip.end());
+    std::vector<std::string> opciones{"--imagen", imagen(chip)};
+    if (!simulada())
+        opciones.push_back("--ritmo"); // a read slow enough to be cut in the middle
+    const auto tablero = placa(opciones);
+    EXPECT_EQ(orden(*tablero, {"leer", "--formato", "bin"}).salida, esperado);
+    EXPECT_EQ(orden(*tablero, {"--lento", "leer", "--formato", "bin"}).salida, esperado);
+    EXPECT_EQ(correr({"--puerto", tablero->ruta(), "leer", "-o", carpeta + "/chip.hex"}, 300ms, SIGKILL).estado,
+              128 + SIGKILL);
+    const Corrida despues = orden(*tablero, {"--lento", "leer", "--formato", "bin"});
+    EXPECT_TRUE(despues.salida == esperado) << despues.errores;
+    terminar(*tablero);
 }
 
 TEST_P(OrdenPlaca, ReadingGivesTheImageAndErasingLeavesABlankChip)
@@ -177,6 +255,30 @@ TEST_P(OrdenPlaca, ReadingGivesTheImageAndErasingLeavesABlankChip)
     EXPECT_EQ(dicho("borrar"), "8192 bytes grabados\n");
     EXPECT_EQ(dicho("vacio"), "El chip está vacío: sus 8192 bytes están en FF\n");
     terminar(*tablero);
+}
+
+// --solo-cambios reads the chip first and writes only the pages where it differs from the
+// file: one byte changed costs one page's write cycle, and a chip that holds the file none.
+TEST_P(OrdenPlaca, OnlyThePagesThatDifferAreWritten)
+{
+    Chip chip;
+    azar(chip, 12);
+    Chip cambiado = chip;
+    cambiado[0x1234] ^= 0x01;
+    std::vector<std::string> opciones{"--imagen", escribir(std::string(cambiado.begin(), cambiado.end()), "c.bin"),
+                                      "--volcado", carpeta + "/volcado.bin"};
+    if (simulada())
+        opciones.insert(opciones.end(), {"--tiempos", carpeta + "/tiempos"});
+    const auto tablero = placa(opciones);
+    const std::string archivo = imagen(chip);
+    for (const char* dicho : {"64 bytes grabados\n1 página grabada", "0 páginas grabadas"})
+        EXPECT_EQ(correr({"--puerto", tablero->ruta(), "grabar", "--solo-cambios", archivo}).salida,
+                  dicho + std::string(" de 128: las que diferían del archivo\n"));
+    terminar(*tablero);
+    EXPECT_EQ(leer("volcado.bin"), std::string(chip.begin(), chip.end()));
+    if (simulada()) {
+        EXPECT_TRUE(std::regex_match(leer("tiempos"), std::regex("[0-9.]+ 1\n[0-9.]+ 0\n"))) << leer("tiempos");
+    }
 }
 
 // Many chips bought second-hand come with their write protection on: the board writes
@@ -240,7 +342,10 @@ TEST_P(OrdenPlaca, ARunRightAfterAnInterruptedOneWritesOnlyItsOwnBytes)
         if (!simulada())
             opciones.push_back("--ritmo"); // slow enough to be cut in the middle
         const auto tablero = placa(opciones);
-        const Corrida cortada = correr({"-q", "--puerto", tablero->ruta(), "grabar", ceros}, 700ms, senal);
+        std::vector<std::string> palabras{"-q", "--puerto", tablero->ruta(), "grabar", ceros};
+        if (simulada())
+            palabras.push_back("--lento"); // the fast protocol there is over before the cut
+        const Corrida cortada = correr(palabras, 700ms, senal);
         EXPECT_EQ(cortada.estado, senal == SIGINT ? 130 : 128 + SIGKILL);
         const Corrida corrida = orden(*tablero, {"grabar", abc});
         EXPECT_EQ(corrida.estado, 0) << corrida.errores;

@@ -24,7 +24,8 @@ std::string interpretado(std::vector<std::string> palabras)
     const Opciones& o = std::get<Opciones>(resultado);
     return "-> orden " + std::to_string(static_cast<int>(o.orden)) + " [" + o.archivo + "] -o " + o.salida + " en [" +
            o.puerto + "] formato " + std::to_string(static_cast<int>(o.formato)) + (o.verificar ? " --verificar" : "") +
-           (o.comoventana ? " --como-ventana" : "") + (o.silencioso ? " -q" : "");
+           (o.comoventana ? " --como-ventana" : "") + (o.silencioso ? " -q" : "") + (o.lento ? " --lento" : "") +
+           (o.solocambios ? " --solo-cambios" : "") + (o.detalles ? " -v" : "");
 }
 
 TEST(Opciones, EachOrderTakesItsOwnSettingsAndWrongUseSaysWhatIsWrong)
@@ -37,6 +38,11 @@ TEST(Opciones, EachOrderTakesItsOwnSettingsAndWrongUseSaysWhatIsWrong)
         {{"--como-ventana", "verificar", "x.s19", "--silencioso"},
          "-> orden 3 [x.s19] -o - en [] formato 0 --como-ventana -q"},
         {{"comprobar"}, "-> orden 0 [] -o - en [] formato 0"},
+        {{"-v", "grabar", "x.hex", "--solo-cambios", "--lento"},
+         "-> orden 2 [x.hex] -o - en [] formato 0 --lento --solo-cambios -v"},
+        {{"leer", "--solo-cambios"}, "--solo-cambios solo va con grabar"},
+        {{"grabar", "x", "--solo-cambios", "--como-ventana"},
+         "--solo-cambios no va con --como-ventana, que graba como la ventana"},
         {{}, "falta la orden"},
         {{"programar"}, "orden desconocida: programar"},
         {{"verificar"}, "falta el archivo de verificar"},

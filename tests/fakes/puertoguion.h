@@ -23,6 +23,7 @@ struct PuertoGuion : Puerto, Grabador {
     bool abrir() override { return abiertoahora = anotar("abrir", true); }
     void cerrar() override { abiertoahora = anotar("cerrar", false); }
     bool abierto() const override { return abiertoahora; }
+    void velocidad(long baudios) override { anotar("velocidad " + std::to_string(baudios)); }
     void escribir(const std::string& datos) override
     {
         if (anotar("escribir " + datos, abiertoahora) && alescribir)

@@ -74,6 +74,11 @@ void PuertoSerie::cerrar()
         puerto_.close();
 }
 
+void PuertoSerie::velocidad(long baudios)
+{
+    puerto_.setBaudRate(static_cast<qint32>(baudios));
+}
+
 bool PuertoSerie::abierto() const
 {
     return puerto_.isOpen();

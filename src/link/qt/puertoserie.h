@@ -12,13 +12,15 @@ namespace eeprog {
 // the emulator's pseudo-terminal), else the first serial port of the system.
 std::string nombrepuerto();
 
-// The board's serial port, 9600 baud 8N1 with no flow control, used by polling alone.
+// The board's serial port, 8N1 with no flow control at 9600 baud or the fast protocol's
+// speed, used by polling alone.
 class PuertoSerie : public Puerto {
 public:
     explicit PuertoSerie(std::string dispositivo = nombrepuerto());
 
     bool abrir() override;
     void cerrar() override;
+    void velocidad(long baudios) override;
     bool abierto() const override;
     void escribir(const std::string& datos) override;
     std::string leer() override;

@@ -38,6 +38,7 @@ public:
     bool abrir() override { return puerto_.abrir(); }
     void cerrar() override { puerto_.cerrar(); }
     bool abierto() const override { return puerto_.abierto(); }
+    void velocidad(long baudios) override { puerto_.velocidad(baudios); }
     void escribir(const std::string& datos) override { puerto_.escribir(datos); }
     std::string leer() override { return puerto_.leer(); }
     void esperar(int milisegundos) override;

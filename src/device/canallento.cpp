@@ -1,0 +1,22 @@
+#include "device/canallento.h"
+
+#include "device/lectura.h"
+
+namespace eeprog {
+
+void CanalLento::leer(Leido& leido, const Avance& avance)
+{
+    leerchip(enlace_, leido, avance);
+}
+
+std::vector<Diferencia> CanalLento::escribir(const std::vector<Trama>& tramas, const Avance& avance)
+{
+    return escribirtramas(enlace_, tramas, avance);
+}
+
+std::vector<Diferencia> CanalLento::comparar(const std::vector<Trama>& tramas, const Avance& avance)
+{
+    return comparartramas(enlace_, tramas, avance);
+}
+
+} // namespace eeprog
