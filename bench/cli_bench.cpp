@@ -134,15 +134,18 @@ void cambiossimulada(benchmark::State& estado)
 {
     simulada(estado, {"grabar", "--solo-cambios", imagenbanco}, "10000", 1.0);
 }
-// The old protocol on the same board, for the ratio: 22.4 s of line for a read, and each
-// byte written waits for its own write cycle.
+// The old protocol on the same board, for the ratio: each exchange is two bytes of line, a
+// byte written waits for its own write cycle, and the program's reaction to each reply counts
+// in real time, as it would with a real board: some 60 % more than the line for a read, a
+// quarter more than line and cycles for a write.
 void leersimuladalento(benchmark::State& estado)
 {
-    simulada(estado, {"--lento", "leer", "-o", lecturabanco}, "10000", 23.0);
+    simulada(estado, {"--lento", "leer", "-o", lecturabanco}, "10000", 1.6 * banco::segundosdelinea(byteslectura));
 }
 void grabarsimuladalento(benchmark::State& estado)
 {
-    simulada(estado, {"--lento", "grabar", imagenbanco, "--verificar"}, "10000", 8192 * 0.0125 + 23.0);
+    const double lineayciclos = banco::segundosdelinea(bytesgrabacion + byteslectura) + 8192 * 0.010;
+    simulada(estado, {"--lento", "grabar", imagenbanco, "--verificar"}, "10000", 1.25 * lineayciclos);
 }
 
 } // namespace
