@@ -227,7 +227,8 @@ std::vector<Diferencia> CanalRapido::comparar(const std::vector<Trama>& tramas, 
         for (int k = 0; k < trama.datos(); ++k)
             pedidos[static_cast<std::size_t>(((trama.direccion() + k) & (tamanochip - 1)) / rapido::tamanobloque)] =
                 true;
-    const auto leidos = static_cast<int>(std::count(pedidos.begin(), pedidos.end(), true)) * rapido::tamanobloque;
+    const auto leidos =
+        std::max(1, static_cast<int>(std::count(pedidos.begin(), pedidos.end(), true)) * rapido::tamanobloque);
     const int total = bytesde(tramas);
     Memoria memoria{};
     leerbloques(

@@ -125,8 +125,9 @@ TEST_P(OrdenPlaca, ProgrammingAndVerifyingLeaveTheChipTheFileGives)
     disperso.fill(0xFF), disperso[0x100] = 0xAA, disperso[0x101] = 0xBB, disperso[0x102] = 0xCC;
     Chip tramos;
     tramos.fill(0xFF), tramos[0x3E] = 1, tramos[0x3F] = 2, tramos[0x40] = 3, tramos[0x41] = 4;
-    tramos[0x7F] = 5, tramos[0x80] = 6;
-    const std::string atraviesan = escribir(":04003E0001020304B4\n:02007F00050674\n:00000001FF\n", "tramos.hex");
+    tramos[0x7F] = 5, tramos[0x80] = 6, tramos[0x1F00] = 0x77;
+    const std::string atraviesan =
+        escribir(":04003E0001020304B4\n:02007F00050674\n:011F00007769\n:00000001FF\n", "tramos.hex");
     const struct {
         const char* nombre;
         std::string archivo;
@@ -136,7 +137,7 @@ TEST_P(OrdenPlaca, ProgrammingAndVerifyingLeaveTheChipTheFileGives)
         {"Intel HEX", escribir(lineashex(chip) + ":00000001FF\r\n", "chip.hex"), chip},
         {"raw image, 9600 baud", imagen(chip), chip, true},
         {"sparse S-records, LF", escribir("S1060100AABBCCC7\nS9030000FC\n", "poco.s19"), disperso},
-        {"records across pages", atraviesan, tramos},
+        {"records across pages, and one far from them", atraviesan, tramos},
         {"records across pages, 9600 baud", atraviesan, tramos, true},
     };
     for (const auto& fila : filas) {
@@ -243,6 +244,22 @@ TEST_P(OrdenPlaca, AfterAFastSessionWholeOrCutTheOldProtocolFindsTheBoardIdle)
     EXPECT_EQ(correr({"--puerto", tablero->ruta(), "leer", "-o", carpeta + "/chip.hex"}, 300ms, SIGKILL).estado,
               128 + SIGKILL);
     antiguo();
+    terminar(*tablero);
+}
+
+TEST_P(OrdenPlaca, ReadingGivesTheImageAndErasingLeavesABlankChip)
+{
+    Chip chip;
+    azar(chip, 9);
+    chip[0] = 0xFF, chip[1] = 0x12;
+    const auto tablero = placa({"--imagen", imagen(chip)});
+    const auto dicho = [&](const char* palabra) { return correr({"--puerto", tablero->ruta(), palabra}).salida; };
+    EXPECT_EQ(dicho("comprobar"), "Programador..... C O N E C T A D O !!!!\n");
+    EXPECT_EQ(orden(*tablero, {"leer", "--formato", "bin"}).salida, std::string(chip.begin(), chip.end()));
+    const Corrida lleno = orden(*tablero, {"vacio"});
+    EXPECT_EQ(lleno.salida + std::to_string(lleno.estado), "El chip no está vacío: Direccion = 0001  Leido = 12\n1");
+    EXPECT_EQ(dicho("borrar"), "8192 bytes grabados\n");
+    EXPECT_EQ(dicho("vacio"), "El chip está vacío: sus 8192 bytes están en FF\n");
     terminar(*tablero);
 }
 

@@ -10,12 +10,12 @@
 #include "plataforma/senales.h"
 #include "placasimulada.h"
 #include "puente.h"
+#include "tiempos.h"
 
 #include <algorithm>
 #include <csignal>
 #include <ctime>
 #include <fstream>
-#include <iomanip>
 #include <iostream>
 #include <limits>
 #include <vector>
@@ -52,44 +52,7 @@ bool detenida()
     return false;
 }
 
-// The board's own time and the chip's write cycles for each session of the port: from the
-// first byte heard to the last one sent.
-class Tiempos {
-public:
-    Tiempos(const std::string& ruta, const eeprog::ChipModelo& chip) : ruta(ruta), chip(chip) {}
-
-    void oido(std::int64_t ahora)
-    {
-        if (!ensesion) {
-            ensesion = true;
-            desde = hasta = ahora;
-            ciclos = chip.ciclos();
-        }
-    }
-    void dicho(std::int64_t ahora) { hasta = ahora; }
-    const std::string& archivo() const { return ruta; }
-    // False when the file cannot be written.
-    bool cerrada()
-    {
-        if (!ensesion || ruta.empty())
-            return true;
-        ensesion = false;
-        std::ofstream archivo(ruta, std::ios::app);
-        archivo << std::fixed << std::setprecision(6) << static_cast<double>(hasta - desde) / 1e9 << ' '
-                << chip.ciclos() - ciclos << '\n';
-        return static_cast<bool>(archivo);
-    }
-
-private:
-    std::string ruta;
-    const eeprog::ChipModelo& chip;
-    bool ensesion = false;
-    std::int64_t desde = 0;
-    std::int64_t hasta = 0;
-    int ciclos = 0;
-};
-
-bool simular(eeprog::PlacaSimulada& placa, eeprog::Puente& puente, Tiempos& tiempos,
+bool simular(eeprog::PlacaSimulada& placa, eeprog::Puente& puente, eeprog::Tiempos& tiempos,
              const volatile std::sig_atomic_t& terminar)
 {
     std::int64_t anclareloj = reloj();
@@ -150,7 +113,7 @@ int servir(eeprog::PlacaSimulada& placa, const eeprog::ChipModelo& chip, const e
     }
     if (!eeprog::anunciar("eeprog-simplaca", puente.ruta(), opciones.enlace))
         return 1;
-    Tiempos tiempos(opciones.tiempos, chip);
+    eeprog::Tiempos tiempos(opciones.tiempos, chip);
     const bool bien = simular(placa, puente, tiempos, terminar);
     if (!opciones.enlace.empty())
         eeprog::desenlazar(opciones.enlace, puente.ruta());
