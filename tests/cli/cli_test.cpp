@@ -188,6 +188,44 @@ TEST_F(OrdenCli, AChangedByteOrAWrongEchoExitsOneNamingItsAddress)
         << eco.salida;
 }
 
+// On a terminal each order draws a bar named for what it does and ends it full, at the bytes
+// it moved: the whole chip, or the one page that differed.
+TEST_F(OrdenCli, OnATerminalEachOrderEndsItsBarAtTheBytesItMoved)
+{
+    Chip chip;
+    azar(chip, 9);
+    const std::string archivo = imagen(chip);
+    chip[0x1234] ^= 1;
+    const std::string cambiado = escribir(std::string(chip.begin(), chip.end()), "cambiado.bin");
+    const std::string lleno = std::string(30, '#');
+    const struct {
+        std::string palabras;
+        std::vector<std::string> barras;
+    } filas[] = {
+        {"grabar " + archivo, {"\rGrabando    [" + lleno + "]  8192/8192 bytes"}},
+        {"grabar --verificar " + cambiado,
+         {"\rGrabando    [" + lleno + "]  8192/8192 bytes", "\rVerificando [" + lleno + "]  8192/8192 bytes"}},
+        {"grabar --solo-cambios " + archivo,
+         {"\rLeyendo     [" + lleno + "]  8192/8192 bytes", "\rGrabando    [" + lleno + "]    64/64 bytes"}},
+        {"borrar", {"\rBorrando    [" + lleno + "]  8192/8192 bytes"}},
+    };
+    Emulador placa;
+    for (const auto& fila : filas) {
+        SCOPED_TRACE(fila.palabras);
+        Escucha terminal;
+        std::this_thread::sleep_for(Emulador::cambiodesesion);
+        const std::string orden =
+            std::string(EEPROG_CLI) + " --puerto " + placa.ruta() + ' ' + fila.palabras + " 2>" + terminal.ruta();
+        EXPECT_EQ(correrprograma({"/bin/sh", "-c", orden}, carpeta).estado, 0);
+        const std::string dibujado = terminal.oido();
+        std::size_t desde = 0;
+        for (const std::string& barra : fila.barras) {
+            desde = dibujado.find(barra, desde);
+            EXPECT_NE(desde, std::string::npos) << barra << " in " << dibujado;
+        }
+    }
+}
+
 // A byte changed on the line either way is caught by the CRC, a byte lost makes its frame
 // go again, and the chip ends as the file says. A board with an older firmware echoes the
 // fast protocol's question, and the run goes on by the old one, as it does when the first
@@ -357,7 +395,10 @@ TEST_P(OrdenPlaca, ARunRightAfterAnInterruptedOneWritesOnlyItsOwnBytes)
             palabras.push_back("--lento"); // the fast protocol there is over before the cut
         const Corrida cortada = correr(palabras, 700ms, senal);
         EXPECT_EQ(cortada.estado, senal == SIGINT ? 130 : 128 + SIGKILL);
-        const Corrida corrida = orden(*tablero, {"grabar", abc});
+        // The run after the kill reaches the port by another name, as /dev/serial/by-id gives it.
+        const std::string enlace = carpeta + "/placa" + std::to_string(senal);
+        std::filesystem::create_symlink(tablero->ruta(), enlace);
+        const Corrida corrida = correr({"-q", "--puerto", senal == SIGKILL ? enlace : tablero->ruta(), "grabar", abc});
         EXPECT_EQ(corrida.estado, 0) << corrida.errores;
         terminar(*tablero);
         const std::string chip = leer("volcado.bin");

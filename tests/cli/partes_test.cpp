@@ -65,7 +65,13 @@ TEST(Opciones, EachOrderTakesItsOwnSettingsAndWrongUseSaysWhatIsWrong)
     for (int orden = 4; const char* palabra : {"borrar", "vacio", "desproteger", "proteger"})
         EXPECT_EQ(interpretado({palabra}), "-> orden " + std::to_string(orden++) + " [] -o - en [] formato 0");
     EXPECT_EQ(interpretado({"leer", "--version"}), "0 eeprog-cli 2.0\n");
-    EXPECT_EQ(interpretado({"grabar", "--help"}).rfind("0 Uso: eeprog-cli", 0), 0u);
+    const std::string ayuda = interpretado({"grabar", "--help"});
+    EXPECT_EQ(ayuda.rfind("0 Uso: eeprog-cli", 0), 0u);
+    std::string estados;
+    const std::regex estado("\n  ([0-9]+) +[a-z]");
+    for (auto cada = std::sregex_iterator(ayuda.begin(), ayuda.end(), estado); cada != std::sregex_iterator(); ++cada)
+        estados += (*cada)[1].str() + ' ';
+    EXPECT_EQ(estados, "0 1 2 3 4 130 ") << "the exit statuses the manual page gives";
 }
 
 TEST(Opciones, AFileIsARawImageByItsFormatOrElseByItsName)
@@ -125,7 +131,7 @@ TEST(Progreso, DrawsOverItsOwnLineAndEndsItOnce)
     std::fclose(terminal);
     const std::string dibujado = std::regex_replace(texto, std::regex("[0-9]+ B/s"), "N B/s");
     std::free(texto);
-    EXPECT_EQ(minutos(0.4) + ' ' + minutos(65.5) + ' ' + minutos(3600), "0:00 1:06 60:00") << "the time left";
+    EXPECT_EQ(minutos(0.4) + ' ' + minutos(71.6) + ' ' + minutos(3600), "0:00 1:12 60:00") << "the time left";
     EXPECT_EQ(dibujado, "\rLeyendo     [###############...............]    50/100 bytes  N B/s  quedan -:--\033[K"
                         "\rLeyendo     [##################............]    60/100 bytes  N B/s  quedan -:--\033[K\n");
 }

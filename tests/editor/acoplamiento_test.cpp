@@ -78,6 +78,9 @@ TEST_F(RejillaTest, CellsHoldBytesAndAreFoundMeasuredAndRedrawnFromTheFirstRowIn
     EXPECT_EQ(std::pair(rejilla.LeftCol(), rejilla.CellLeft()), std::pair(1, 1920));
     rejilla.FormatString("^|>"); // a mark for each column, from the left
     EXPECT_TRUE(rejilla.ColAlignment(0) == Alineacion::centro && rejilla.ColAlignment(1) == Alineacion::derecha);
+    rejilla.TextMatrix(0, 1, "A"), rejilla.Rows(101), rejilla.Cols(5);
+    EXPECT_EQ(rejilla.TextMatrix(0, 1) + rejilla.TextMatrix(20, 0) + rejilla.TextMatrix(100, 0), std::string("A\0", 2))
+        << "a grid made larger keeps its texts";
 }
 
 // The three grids as the window has them, with the coupling's handlers on their events.

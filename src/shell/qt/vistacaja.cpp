@@ -65,7 +65,6 @@ void VistaCaja::Text(const std::string& texto)
 void VistaCaja::colocar(int izquierda, int arriba, int ancho, int alto)
 {
     setGeometry(rectangulo(izquierda, arriba, ancho, alto));
-    raise();
 }
 
 void VistaCaja::BackColor(Color color)
