@@ -52,6 +52,7 @@ static void sesionrapida(struct protocolo *protocolo, const struct chip *memoria
     }
     esperarenvio();
     uartrapida(0);
+    memoria->elegir(memoria->contexto, &modelos[MODELOAT28C64B]); /* A13 and A14 let go */
     protocolo->protegido = rapido.protegido;
     volverareposo(protocolo);
 }
@@ -63,7 +64,7 @@ int main(void)
     iniciaruart();
     const struct chip memoria = {leermemoria,     escribirmemoria, escribirprotegida, desprotegermemoria,
                                  protegermemoria, cargarpagina,    ocupado,           leerpagina,
-                                 0};
+                                 elegirmemoria,   0};
     struct protocolo protocolo;
     iniciarprotocolo(&protocolo);
     for (;;) {

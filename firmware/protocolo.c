@@ -1,5 +1,11 @@
 #include "protocolo.h"
 
+/* From the data sheets: the AT28C64B and the AT28C256 (and its equals, 28C256). */
+const struct modelo modelos[MODELOS] = {
+    {8192u, 0x1555, 0x0AAA, 13},
+    {32768u, 0x5555, 0x2AAA, 15},
+};
+
 void iniciarprotocolo(struct protocolo *p)
 {
     p->estado = REPOSO;

@@ -24,10 +24,25 @@ enum {
      * and the version, then speaks it (rapido.h). */
     ORDENRAPIDO = 0x76,
     RESPUESTARAPIDO = 0x56,
-    RAPIDOVERSION = 1
+    RAPIDOVERSION = 2 /* 2: the chip named in the greeting, and the protection by frame */
 };
 
-/* The AT28C64B: 13 address lines; the board leaves the upper ones unconnected. */
+/* A chip the board takes, as data: its bytes (a power of two), the two addresses of its
+ * software data protection sequences, and its address lines. The board drives A13 (ZIF pin
+ * 26) and A14 (pin 1) only for a chip that has them: on the AT28C64B both pins are free,
+ * and the AT28C64 without B drives pin 1 itself (RDY/BUSY). */
+struct modelo {
+    uint16_t tamano;
+    uint16_t clave1; /* takes AA, then the command byte */
+    uint16_t clave2; /* takes 55 */
+    uint8_t lineas;
+};
+
+/* The chips as the fast protocol numbers them. The old protocol knows only the first. */
+enum { MODELOAT28C64B, MODELOAT28C256, MODELOS };
+extern const struct modelo modelos[MODELOS];
+
+/* The AT28C64B, the old protocol's chip: its addresses wrap at 8 KB. */
 #define TAMANOCHIP 8192u
 
 /* Milliseconds of silence on the line after which a frame left half way is given up and the
@@ -55,8 +70,12 @@ struct chip {
     void (*cargarpagina)(void *contexto, uint16_t direccion, const uint8_t *datos, const uint8_t *mascara,
                          uint8_t protegida);
     uint8_t (*ocupado)(void *contexto);
-    /* The 64 bytes of the page, in one go: the check after a page write. */
-    void (*leerpagina)(void *contexto, uint16_t direccion, uint8_t *destino);
+    /* The 64 bytes of the page, in one go, and whether every byte the mask gives reads as
+     * in datos: the check after a page write. */
+    uint8_t (*leerpagina)(void *contexto, uint16_t direccion, uint8_t *destino, const uint8_t *datos,
+                          const uint8_t *mascara);
+    /* The chip of what follows, until the next call; the board starts with the first. */
+    void (*elegir)(void *contexto, const struct modelo *modelo);
     void *contexto;
 };
 

@@ -25,13 +25,16 @@ enum {
     /* The program's frames. */
     TRAMALEER = 0x4C,   /* "L": address high, low, blocks high, low; answered by the blocks */
     TRAMAPAGINA = 0x50, /* "P": page address high, low, 8 bytes of mask, 64 data bytes */
-    TRAMAHOLA = 0x48,   /* "H": empty; the first exchange at the new speed, answered by TRAMASALUDO */
+    TRAMAHOLA = 0x48,   /* "H": the chip's number (none: the AT28C64B); the first exchange at the new
+                           speed, answered by TRAMASALUDO */
+    TRAMAPROTECCION = 0x53, /* "S": 1 turns the chip's software data protection on, 0 off */
     TRAMAFIN = 0x46,    /* "F": empty; answered by TRAMAADIOS, then the board is at 9600 */
 
     /* The board's. */
     TRAMABLOQUE = 0x6C, /* "l": address high, low, then TAMANOBLOQUE bytes of the chip */
     TRAMAGRABADA = 0x67, /* "g": page address high, low, result; after PAGINAMAL the page as read */
     TRAMASALUDO = 0x68, /* "h": empty */
+    TRAMAPROTEGIDA = 0x73, /* "s": the same byte, once the sequence and its write cycle are over */
     TRAMAADIOS = 0x66,  /* "f": empty */
     TRAMAMAL = 0x6E     /* "n": empty; the frame in its turn was bad and nothing was done */
 };
@@ -74,6 +77,7 @@ struct rapido {
     uint8_t *carga;
     uint8_t completa; /* 1 a good frame waits, 2 a bad one */
 
+    const struct modelo *modelo; /* the chip the greeting named */
     uint8_t escribiendo;
     struct pagina pagina;
     uint8_t protegido; /* as in struct protocolo */
