@@ -26,11 +26,22 @@ std::variant<std::vector<Trama>, std::string> comoventana(const std::string& nom
     return tramas;
 }
 
-std::string rechazo(const std::string& nombre, const Rechazo& motivo)
+LecturaImagen leer(const std::string& texto, const Opciones& opciones, const Modelo& modelo)
 {
-    if (motivo.linea == 0)
-        return nombre + ": " + motivo.motivo;
-    return nombre + ", línea " + std::to_string(motivo.linea) + ": " + motivo.motivo;
+    return esbinario(opciones.archivo, opciones.formato) ? leerbinario(texto, modelo.tamano)
+                                                         : leertexto(texto, modelo.tamano);
+}
+
+// A file refused for its size alone names the larger chip it fits.
+std::string rechazo(const std::string& texto, const Opciones& opciones, const Rechazo& motivo)
+{
+    std::string dicho =
+        opciones.archivo + (motivo.linea == 0 ? "" : ", línea " + std::to_string(motivo.linea)) + ": " + motivo.motivo;
+    for (const Modelo& mayor : modelos)
+        if (mayor.tamano > opciones.modelo->tamano && std::holds_alternative<Imagen>(leer(texto, opciones, mayor)))
+            return dicho + " (el " + opciones.modelo->nombre + "); cabe en el " + mayor.nombre + ": --chip " +
+                   mayor.nombre;
+    return dicho;
 }
 
 } // namespace
@@ -43,9 +54,9 @@ std::variant<std::vector<Trama>, std::string> tramasdearchivo(const Opciones& op
         return "no se puede leer el archivo " + nombre;
     if (opciones.comoventana)
         return comoventana(nombre, *texto);
-    const LecturaImagen lectura = esbinario(nombre, opciones.formato) ? leerbinario(*texto) : leertexto(*texto);
+    const LecturaImagen lectura = leer(*texto, opciones, *opciones.modelo);
     if (const auto* motivo = std::get_if<Rechazo>(&lectura))
-        return rechazo(nombre, *motivo);
+        return rechazo(*texto, opciones, *motivo);
     return tramasdeimagen(std::get<Imagen>(lectura));
 }
 

@@ -13,12 +13,13 @@ namespace eeprog {
 namespace {
 
 const std::string ayuda = R"(Uso: eeprog-cli [OPCIONES] ORDEN [ARCHIVO]
-Lee, graba y verifica el AT28C64B en la placa de eeprog, desde la línea de órdenes.
+Lee, graba y verifica el AT28C64B o el AT28C256 en la placa de eeprog, desde la
+línea de órdenes.
 
 Órdenes:
   comprobar           comprueba que la placa responde
   leer                lee el chip entero: el Intel HEX que guarda eeprog, o la
-                      imagen binaria de 8192 bytes (-o X.bin o --formato bin)
+                      imagen binaria del chip (-o X.bin o --formato bin)
   grabar ARCHIVO      graba los bytes del archivo (Intel HEX, S-record o imagen
                       binaria) y compara cada eco con el byte enviado
   verificar ARCHIVO   compara el chip con el archivo y da cada diferencia
@@ -29,6 +30,8 @@ Lee, graba y verifica el AT28C64B en la placa de eeprog, desde la línea de órd
 
 Opciones:
   --puerto DISPOSITIVO  el puerto de la placa (si no, EEPROG_COM1 o /dev/ttyS0)
+  --chip MODELO         AT28C64B (si no se dice) o AT28C256; también 28C64B y
+                        28C256. El AT28C256 pide el protocolo rápido de la placa
   -o, --salida ARCHIVO  el archivo que escribe leer (sin -o, o con -, la salida
                         estándar)
   --formato hex|bin     el formato del archivo, en vez de su nombre
@@ -52,10 +55,11 @@ Estado de salida:
   130  interrumpido con Ctrl+C: el puerto se cierra y no queda archivo a medias
 )";
 
-enum Clave { puerto = 1, formato, verificar, comoventana, version, lento, solocambios };
+enum Clave { puerto = 1, formato, verificar, comoventana, version, lento, solocambios, chip };
 
-const std::array<option, 13> largas{{
+const std::array<option, 14> largas{{
     {"puerto", required_argument, nullptr, puerto},
+    {"chip", required_argument, nullptr, chip},
     {"salida", required_argument, nullptr, 'o'},
     {"formato", required_argument, nullptr, formato},
     {"verificar", no_argument, nullptr, verificar},
@@ -113,6 +117,9 @@ std::optional<std::string> incompatible(const Opciones& o, bool consalida)
         return "--como-ventana lee Intel HEX y S-record, no imágenes binarias";
     if (o.salida.empty())
         return "-o pide un nombre de archivo";
+    // The old protocol and the window's way of reading files know only the first chip.
+    if ((o.lento || o.comoventana) && o.modelo != &at28c64b)
+        return std::string(o.lento ? "--lento" : "--como-ventana") + " solo va con el " + at28c64b.nombre;
     return std::nullopt;
 }
 
@@ -149,6 +156,11 @@ std::variant<Opciones, Respuesta> interpretar(int argc, char* argv[])
         switch (clave) {
         case puerto:
             o.puerto = valor;
+            break;
+        case chip:
+            o.modelo = buscarmodelo(valor);
+            if (o.modelo == nullptr)
+                return maluso("--chip es AT28C64B o AT28C256, no " + valor);
             break;
         case 'o':
             o.salida = valor;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "link/modelo.h"
+
 #include <string>
 #include <variant>
 
@@ -18,9 +20,10 @@ struct Opciones {
     bool verificar = false;
     bool comoventana = false;
     bool silencioso = false;
-    bool lento = false;       // the old protocol at 9600 baud, even with a board that has the fast one
-    bool solocambios = false; // grabar writes only the pages that differ from the file
-    bool detalles = false;    // -v: says which protocol the run used
+    bool lento = false;               // the old protocol at 9600 baud, even with a board that has the fast one
+    bool solocambios = false;         // grabar writes only the pages that differ from the file
+    bool detalles = false;            // -v: says which protocol the run used
+    const Modelo* modelo = &at28c64b; // the chip in the socket, as --chip names it
 };
 
 // A run that ends at the command line: the text for standard output (help, version) or for

@@ -7,7 +7,6 @@
 #include "device/canallento.h"
 #include "device/canalrapido.h"
 #include "device/lectura.h"
-#include "device/proteccion.h"
 #include "device/verificacion.h"
 #include "link/conexion.h"
 #include "link/protocolo.h"
@@ -29,6 +28,9 @@ namespace {
 // byte that is left would take a tenth of a second each.
 struct PlacaCallada {};
 
+// The board's firmware does not know the chip asked for.
+struct PlacaAnterior {};
+
 // The board's idle time, and some more for a byte still on its way when the last run ended.
 constexpr std::chrono::milliseconds esperareposo{protocolo::reposo * 7 / 5};
 
@@ -48,20 +50,20 @@ std::string cuenta(std::size_t numero, const std::string& singular, const std::s
     return std::to_string(numero) + " " + (numero == 1 ? singular : plural);
 }
 
-std::string imagenbinaria(const Leido& leido)
+std::string imagenbinaria(const Leido& leido, int tamano)
 {
-    std::string imagen(protocolo::tamanochip, '\0');
-    std::transform(leido.vectorleido.begin(), leido.vectorleido.begin() + protocolo::tamanochip, imagen.begin(),
+    std::string imagen(static_cast<std::size_t>(tamano), '\0');
+    std::transform(leido.vectorleido.begin(), leido.vectorleido.begin() + tamano, imagen.begin(),
                    [](std::int16_t valor) { return static_cast<char>(valor & 0xFF); });
     return imagen;
 }
 
-std::vector<Trama> chipborrado()
+std::vector<Trama> chipborrado(int tamano)
 {
-    Imagen imagen;
-    imagen.bytes.fill(0xFF);
-    imagen.dado.set();
-    return tramasdeimagen(imagen);
+    auto imagen = std::make_unique<Imagen>(tamano);
+    imagen->bytes.fill(0xFF);
+    imagen->dado.set();
+    return tramasdeimagen(*imagen);
 }
 
 } // namespace
@@ -114,7 +116,7 @@ int Programador::leer()
     });
     if (estado != salida::hecho)
         return estado;
-    return guardar(esbinario(opciones_.salida, opciones_.formato) ? imagenbinaria(*leido)
+    return guardar(esbinario(opciones_.salida, opciones_.formato) ? imagenbinaria(*leido, tamano())
                                                                   : textoguardado(leido->textoleido));
 }
 
@@ -155,7 +157,7 @@ int Programador::grabarcambios(const std::vector<Trama>& tramas)
     const auto cadabyte = [&](const auto& hacer) {
         for (const Trama& trama : tramas)
             for (int k = 0; k < trama.datos(); ++k)
-                hacer(static_cast<std::size_t>((trama.direccion() + k) % protocolo::tamanochip),
+                hacer(static_cast<std::size_t>((trama.direccion() + k) % tamano()),
                       static_cast<std::uint8_t>(trama.valores[static_cast<std::size_t>(4 + k)]));
     };
     std::set<std::size_t> paginas;
@@ -163,18 +165,18 @@ int Programador::grabarcambios(const std::vector<Trama>& tramas)
         if (valor != leido->vectorleido[direccion])
             paginas.insert(direccion / rapido::tamanopagina);
     });
-    Imagen cambios;
+    auto cambios = std::make_unique<Imagen>(tamano());
     cadabyte([&](std::size_t direccion, std::uint8_t valor) {
         if (paginas.count(direccion / rapido::tamanopagina) != 0) {
-            cambios.bytes[direccion] = valor;
-            cambios.dado.set(direccion);
+            cambios->bytes[direccion] = valor;
+            cambios->dado.set(direccion);
         }
     });
-    int estado = paginas.empty() ? salida::hecho : escribir(tramasdeimagen(cambios), "Grabando");
+    int estado = paginas.empty() ? salida::hecho : escribir(tramasdeimagen(*cambios), "Grabando");
     if (estado == salida::hecho && opciones_.verificar && !diferencias(tramas).empty())
         estado = salida::distinto;
     resumen(cuenta(paginas.size(), "página grabada", "páginas grabadas") + " de " +
-            std::to_string(protocolo::tamanochip / rapido::tamanopagina) + ": las que diferían del archivo");
+            std::to_string(tamano() / rapido::tamanopagina) + ": las que diferían del archivo");
     return estado;
 }
 
@@ -185,7 +187,7 @@ int Programador::verificar()
 
 int Programador::borrar()
 {
-    return conchip([this] { return escribir(chipborrado(), "Borrando"); });
+    return conchip([this] { return escribir(chipborrado(tamano()), "Borrando"); });
 }
 
 int Programador::vacio()
@@ -194,10 +196,10 @@ int Programador::vacio()
     return conchip([&] {
         leerentero(*leido);
         const auto& bytes = leido->vectorleido;
-        const auto lleno = std::find_if(bytes.begin(), bytes.begin() + protocolo::tamanochip,
-                                        [](std::int16_t valor) { return valor != 0xFF; });
-        if (lleno == bytes.begin() + protocolo::tamanochip) {
-            resumen("El chip está vacío: sus 8192 bytes están en FF");
+        const auto lleno =
+            std::find_if(bytes.begin(), bytes.begin() + tamano(), [](std::int16_t valor) { return valor != 0xFF; });
+        if (lleno == bytes.begin() + tamano()) {
+            resumen("El chip está vacío: sus " + std::to_string(tamano()) + " bytes están en FF");
             return salida::hecho;
         }
         resultado("El chip no está vacío: Direccion = " + cuatrocifras(lleno - bytes.begin()) +
@@ -242,6 +244,11 @@ int Programador::conplaca(const std::function<int()>& operacion, bool condatos)
         terminal_.progreso.terminar();
         error("interrumpido en medio de una trama: la placa vuelve al reposo tras medio segundo sin recibir nada");
         estado = salida::interrumpido;
+    } catch (const PlacaAnterior&) {
+        error(dispositivo_ + ": el programa de la placa es anterior al " + opciones_.modelo->nombre +
+              ", que pide la versión " + std::to_string(rapido::versionmodelos) +
+              " de su protocolo rápido: grabe en ella el de esta versión de eeprog");
+        estado = salida::sinplaca;
     } catch (const PlacaCallada&) {
         terminal_.progreso.terminar();
         error(dispositivo_ + ": la placa dejó de responder");
@@ -277,6 +284,8 @@ int Programador::conarchivo(const std::function<int(const std::vector<Trama>&)>&
 // The fast protocol when the board has it and the run does not ask for the old one. A board
 // that echoes the question or says nothing is an older one; one whose first fast exchange
 // fails is back at 9600 after its idle time, and is checked again before the old protocol.
+// The old protocol knows the AT28C64B alone, and the fast one's first version too: another
+// chip asked of such a board ends the run, which leaves the board to its idle time.
 void Programador::elegircanal()
 {
     canal_ = std::make_unique<CanalLento>(enlace_);
@@ -285,12 +294,15 @@ void Programador::elegircanal()
         return;
     }
     const auto version = rapido_.preguntar();
+    const bool otrochip = opciones_.modelo != &at28c64b;
+    if (otrochip && version.value_or(0) < rapido::versionmodelos)
+        throw PlacaAnterior{};
     if (!version) {
         detalle(canal_->nombre() + ": la placa no tiene el protocolo rápido");
         return;
     }
     rapido_.velocidad(rapido::baudios);
-    auto rapida = std::make_unique<CanalRapido>(rapido_);
+    auto rapida = std::make_unique<CanalRapido>(rapido_, *opciones_.modelo, *version);
     if (rapida->saludar()) {
         detalle(rapida->nombre() + ", versión " + std::to_string(*version) + " de la placa");
         canal_ = std::move(rapida);
@@ -301,12 +313,14 @@ void Programador::elegircanal()
     enlace_.descartar();
     if (!comprobarconexion(enlace_))
         throw PlacaCallada{};
+    if (otrochip)
+        throw LineaRota{};
     detalle(canal_->nombre() + ": el primer intercambio rápido falló");
 }
 
 void Programador::leerentero(Leido& leido)
 {
-    canal_->leer(leido, avance("Leyendo", protocolo::tamanochip));
+    canal_->leer(leido, avance("Leyendo", tamano()));
     terminal_.progreso.terminar();
 }
 
@@ -369,8 +383,8 @@ std::vector<Diferencia> Programador::diferencias(const std::vector<Trama>& trama
 
 int Programador::proteccion(bool proteger)
 {
-    return conplaca([&] {
-        if (!cambiarproteccion(enlace_, proteger)) {
+    return conchip([&] {
+        if (!canal_->proteger(proteger)) {
             error(dispositivo_ + ": la placa no dice haberlo hecho; su programa puede ser anterior a esta orden");
             return salida::sinplaca;
         }
@@ -394,7 +408,7 @@ int Programador::guardar(const std::string& texto)
         error("no se puede escribir el archivo " + nombre);
         return salida::archivo;
     }
-    resumen("8192 bytes leídos en " + nombre);
+    resumen(std::to_string(tamano()) + " bytes leídos en " + nombre);
     return salida::hecho;
 }
 

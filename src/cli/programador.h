@@ -56,6 +56,7 @@ private:
     int comparar(const std::vector<Trama>& tramas);
     std::vector<Diferencia> diferencias(const std::vector<Trama>& tramas);
     int guardar(const std::string& texto);
+    int tamano() const { return opciones_.modelo->tamano; }
 
     void error(const std::string& mensaje);
     void resultado(const std::string& mensaje);

@@ -1,6 +1,7 @@
 #include "device/canallento.h"
 
 #include "device/lectura.h"
+#include "device/proteccion.h"
 
 namespace eeprog {
 
@@ -17,6 +18,11 @@ std::vector<Diferencia> CanalLento::escribir(const std::vector<Trama>& tramas, c
 std::vector<Diferencia> CanalLento::comparar(const std::vector<Trama>& tramas, const Avance& avance)
 {
     return comparartramas(enlace_, tramas, avance);
+}
+
+bool CanalLento::proteger(bool poner)
+{
+    return cambiarproteccion(enlace_, poner);
 }
 
 } // namespace eeprog

@@ -5,7 +5,8 @@
 
 namespace eeprog {
 
-// The window's protocol at 9600 baud, one byte an exchange: every board speaks it.
+// The window's protocol at 9600 baud, one byte an exchange: every board speaks it, for the
+// AT28C64B alone.
 class CanalLento : public Canal {
 public:
     explicit CanalLento(Enlace& enlace) : enlace_(enlace) {}
@@ -14,6 +15,7 @@ public:
     void leer(Leido& leido, const Avance& avance) override;
     std::vector<Diferencia> escribir(const std::vector<Trama>& tramas, const Avance& avance) override;
     std::vector<Diferencia> comparar(const std::vector<Trama>& tramas, const Avance& avance) override;
+    bool proteger(bool poner) override;
 
 private:
     Enlace& enlace_;

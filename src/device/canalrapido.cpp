@@ -11,8 +11,6 @@ namespace eeprog {
 
 namespace {
 
-constexpr int tamanochip = protocolo::tamanochip;
-constexpr int bloques = tamanochip / rapido::tamanobloque;
 constexpr std::size_t cargagrabada = 3;
 // Blocks a read request asks for: 512 bytes, 47 ms of the line.
 constexpr int bloquesporpeticion = 4;
@@ -28,12 +26,12 @@ int dosbytesde(const std::string& texto, std::size_t desde)
 }
 
 // The frames' bytes by page, the last one given for an address standing, in address order.
-std::vector<CanalRapido::Pagina> paginasde(const std::vector<Trama>& tramas)
+std::vector<CanalRapido::Pagina> paginasde(const std::vector<Trama>& tramas, int tamano)
 {
     std::map<int, CanalRapido::Pagina> paginas;
     for (const Trama& trama : tramas) {
         for (int k = 0; k < trama.datos(); ++k) {
-            const int direccion = (trama.direccion() + k) & (tamanochip - 1);
+            const int direccion = (trama.direccion() + k) & (tamano - 1);
             const int i = direccion % rapido::tamanopagina;
             CanalRapido::Pagina& pagina = paginas[direccion - i];
             pagina.direccion = direccion - i;
@@ -75,7 +73,8 @@ void apuntar(const CanalRapido::Pagina& pagina, const std::string& leida, std::v
 
 bool CanalRapido::saludar()
 {
-    enlace_.enviar({rapido::hola, {}});
+    const bool connumero = version_ >= rapido::versionmodelos;
+    enlace_.enviar({rapido::hola, connumero ? std::string(1, static_cast<char>(modelo_.numero)) : std::string()});
     const auto respuesta = enlace_.recibir();
     return respuesta && respuesta->tipo == rapido::saludo;
 }
@@ -92,11 +91,11 @@ bool CanalRapido::terminar()
 
 void CanalRapido::leer(Leido& leido, const Avance& avance)
 {
-    Memoria memoria{};
-    leerbloques(std::vector<bool>(bloques, true), memoria, avance);
+    Memoria memoria(static_cast<std::size_t>(modelo_.tamano));
+    leerbloques(std::vector<bool>(static_cast<std::size_t>(bloques()), true), memoria, avance);
     leido.textoleido.clear();
     std::copy(memoria.begin(), memoria.end(), leido.vectorleido.begin());
-    for (int bloque = 0; bloque < tamanochip / protocolo::tamanobloque; ++bloque)
+    for (int bloque = 0; bloque < modelo_.tamano / protocolo::tamanobloque; ++bloque)
         leido.textoleido += linealeida(leido, bloque);
 }
 
@@ -109,7 +108,7 @@ void CanalRapido::leerbloques(std::vector<bool> pedidos, Memoria& memoria, const
     int hechos = 0;
     for (int ronda = 0; ronda < intentos; ++ronda) {
         std::vector<std::pair<int, int>> peticiones;
-        for (int bloque = 0; bloque < bloques; ++bloque) {
+        for (int bloque = 0; bloque < bloques(); ++bloque) {
             if (!pedidos[static_cast<std::size_t>(bloque)])
                 continue;
             if (peticiones.empty() || peticiones.back().first + peticiones.back().second != bloque ||
@@ -149,7 +148,7 @@ bool CanalRapido::recibirbloques(int cuantos, std::vector<bool>& pedidos, Memori
         if (trama->tipo == rapido::danada)
             continue;
         const int direccion = trama->tipo == rapido::bloque ? dosbytesde(trama->carga, 0) : -1;
-        if (direccion < 0 || direccion % rapido::tamanobloque != 0 || direccion >= tamanochip) {
+        if (direccion < 0 || direccion % rapido::tamanobloque != 0 || direccion >= modelo_.tamano) {
             enlace_.callar();
             return false;
         }
@@ -169,7 +168,7 @@ bool CanalRapido::recibirbloques(int cuantos, std::vector<bool>& pedidos, Memori
 // did not come whole or a line out of step goes again.
 std::vector<Diferencia> CanalRapido::escribir(const std::vector<Trama>& tramas, const Avance& avance)
 {
-    const std::vector<Pagina> paginas = paginasde(tramas);
+    const std::vector<Pagina> paginas = paginasde(tramas, modelo_.tamano);
     std::deque<std::size_t> pendientes;
     std::deque<std::size_t> envuelo;
     std::vector<int> envios(paginas.size(), 0);
@@ -222,22 +221,21 @@ std::vector<Diferencia> CanalRapido::escribir(const std::vector<Trama>& tramas, 
 
 std::vector<Diferencia> CanalRapido::comparar(const std::vector<Trama>& tramas, const Avance& avance)
 {
-    std::vector<bool> pedidos(bloques, false);
+    std::vector<bool> pedidos(static_cast<std::size_t>(bloques()), false);
     for (const Trama& trama : tramas)
         for (int k = 0; k < trama.datos(); ++k)
-            pedidos[static_cast<std::size_t>(((trama.direccion() + k) & (tamanochip - 1)) / rapido::tamanobloque)] =
-                true;
+            pedidos[static_cast<std::size_t>(direccionen(trama.direccion() + k) / rapido::tamanobloque)] = true;
     const auto leidos =
         std::max(1, static_cast<int>(std::count(pedidos.begin(), pedidos.end(), true)) * rapido::tamanobloque);
     const int total = bytesde(tramas);
-    Memoria memoria{};
+    Memoria memoria(static_cast<std::size_t>(modelo_.tamano));
     leerbloques(
         pedidos, memoria,
         {[&](int hechos) { avance.dato(static_cast<int>(static_cast<long>(total) * hechos / leidos)); }, avance.trama});
     std::vector<Diferencia> diferencias;
     for (const Trama& trama : tramas) {
         for (int k = 0; k < trama.datos(); ++k) {
-            const int direccion = (trama.direccion() + k) & (tamanochip - 1);
+            const int direccion = direccionen(trama.direccion() + k);
             const int esperado = trama.valores[static_cast<std::size_t>(4 + k)];
             const int obtenido = memoria[static_cast<std::size_t>(direccion)];
             if ((esperado & 0xFF) != obtenido)
@@ -245,6 +243,15 @@ std::vector<Diferencia> CanalRapido::comparar(const std::vector<Trama>& tramas, 
         }
     }
     return diferencias;
+}
+
+// The sequence and its write cycle take the board some 10 ms, well within one reply's budget.
+bool CanalRapido::proteger(bool poner)
+{
+    const std::string byte(1, poner ? '\1' : '\0');
+    enlace_.enviar({rapido::proteccion, byte});
+    const auto respuesta = enlace_.recibir();
+    return respuesta && respuesta->tipo == rapido::protegida && respuesta->carga == byte;
 }
 
 // An interruption at a frame's end waits for the pages still in flight and ends the session,

@@ -42,7 +42,7 @@ std::vector<Trama> tramasdeimagen(const Imagen& imagen)
 {
     std::vector<Trama> tramas;
     bool abierta = false;
-    for (int direccion = 0; direccion < tamanoimagen; ++direccion) {
+    for (int direccion = 0; direccion < imagen.tamano; ++direccion) {
         if (!imagen.dado[static_cast<std::size_t>(direccion)]) {
             abierta = false;
             continue;

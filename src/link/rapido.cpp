@@ -29,6 +29,8 @@ bool cabecerabuena(char tipo, std::size_t largo)
         return largo == 2 + rapido::tamanobloque;
     case rapido::grabada:
         return largo == 3 || largo == 3 + rapido::tamanopagina;
+    case rapido::protegida:
+        return largo == 1;
     case rapido::saludo:
     case rapido::adios:
     case rapido::mal:

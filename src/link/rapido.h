@@ -18,15 +18,19 @@ inline constexpr long baudios = 115200;
 inline constexpr long baudioslentos = 9600;
 inline constexpr int tamanopagina = 64;
 inline constexpr int tamanobloque = 128;
+// The version whose greeting names the chip, and that turns the protection by frame.
+inline constexpr int versionmodelos = 2;
 
 // Frame types: the program's, then the board's.
-inline constexpr char leer = 'L';    // address high, low, blocks high, low
-inline constexpr char pagina = 'P';  // page address high, low, 8 bytes of mask, 64 bytes
-inline constexpr char hola = 'H';    // empty: the first exchange at the new speed
-inline constexpr char fin = 'F';     // empty: back to 9600 and idle
-inline constexpr char bloque = 'l';  // address high, low, 128 bytes
-inline constexpr char grabada = 'g'; // page address high, low, 0 (written) or 1 and the page as read
+inline constexpr char leer = 'L';       // address high, low, blocks high, low
+inline constexpr char pagina = 'P';     // page address high, low, 8 bytes of mask, 64 bytes
+inline constexpr char hola = 'H';       // the chip's number (version 2 on): the first exchange at the new speed
+inline constexpr char proteccion = 'S'; // 1 turns the chip's software data protection on, 0 off
+inline constexpr char fin = 'F';        // empty: back to 9600 and idle
+inline constexpr char bloque = 'l';     // address high, low, 128 bytes
+inline constexpr char grabada = 'g';    // page address high, low, 0 (written) or 1 and the page as read
 inline constexpr char saludo = 'h';
+inline constexpr char protegida = 's'; // the same byte, once done
 inline constexpr char adios = 'f';
 inline constexpr char mal = 'n'; // the frame in its turn came with a bad CRC: nothing done
 // Never on the line: a frame of the board's whose header is right but whose CRC failed, so

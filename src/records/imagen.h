@@ -8,10 +8,14 @@
 
 namespace eeprog {
 
-inline constexpr int tamanoimagen = 8192; // AT28C64B: addresses 0x0000-0x1FFF
+// The largest chip the program knows: 32 KB.
+inline constexpr int tamanoimagen = 32768;
 
-// What a file gives for the chip, as the strict readers take it.
+// What a file gives for a chip of some size, as the strict readers take it.
 struct Imagen {
+    explicit Imagen(int tamano) : tamano(tamano) {}
+
+    int tamano;                                     // the chip's bytes: the file's addresses stay below
     std::array<std::uint8_t, tamanoimagen> bytes{}; // value by address (0 where not given)
     std::bitset<tamanoimagen> dado;                 // the addresses the file gives
 };

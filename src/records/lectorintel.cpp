@@ -12,9 +12,9 @@ constexpr int longitudes[] = {-1, 0, 2, 4, 2, 4};
 
 } // namespace
 
-LecturaImagen leerintel(std::string_view texto)
+LecturaImagen leerintel(std::string_view texto, int tamano)
 {
-    Imagen imagen;
+    Imagen imagen(tamano);
     std::uint32_t base = 0;
     for (const Linea& linea : lineas(texto)) {
         if (linea.texto.front() != ':')
@@ -38,7 +38,7 @@ LecturaImagen leerintel(std::string_view texto)
         // The offset wraps within its 64 KB, past the base.
         for (unsigned i = 0; tipo == 0 && i < largo; ++i)
             if (!ponerdato(imagen, base + ((desplazamiento + i) & 0xFFFF), datos[i]))
-                return rechazo(linea.numero, Falta::fuera);
+                return rechazo(linea.numero, Falta::fuera, tamano);
     }
     return cerrar(imagen);
 }

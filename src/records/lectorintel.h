@@ -8,6 +8,7 @@ namespace eeprog {
 
 // Intel HEX as the tools that write it mean it, every line checked. Record types 00 to 05;
 // an end record (01) ends the reading, and a file without one is read to its end.
-LecturaImagen leerintel(std::string_view texto);
+// Addresses from tamano on are refused.
+LecturaImagen leerintel(std::string_view texto, int tamano);
 
 } // namespace eeprog

@@ -11,9 +11,9 @@ constexpr std::size_t anchos[] = {2, 2, 3, 4, 0, 2, 3, 4, 3, 2};
 
 } // namespace
 
-LecturaImagen leermotorola(std::string_view texto)
+LecturaImagen leermotorola(std::string_view texto, int tamano)
 {
-    Imagen imagen;
+    Imagen imagen(tamano);
     for (const Linea& linea : lineas(texto)) {
         if (linea.texto.front() != 'S' && linea.texto.front() != 's')
             return rechazo(linea.numero, Falta::marca);
@@ -38,7 +38,7 @@ LecturaImagen leermotorola(std::string_view texto)
             direccion = direccion << 8 | bytes[i];
         for (std::size_t i = ancho + 1; i + 1 < bytes.size(); ++i)
             if (!ponerdato(imagen, direccion++, bytes[i]))
-                return rechazo(linea.numero, Falta::fuera);
+                return rechazo(linea.numero, Falta::fuera, tamano);
     }
     return cerrar(imagen);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstdio>
 
 namespace eeprog {
 
@@ -36,13 +37,21 @@ std::vector<Linea> lineas(std::string_view texto)
     }
 }
 
-Rechazo rechazo(int linea, Falta falta)
+Rechazo rechazo(int linea, Falta falta, int tamano)
 {
     static constexpr const char* motivos[] = {
         "falta la marca de registro",   "carácter no hexadecimal",      "longitud errónea",
-        "suma de verificación errónea", "tipo de registro desconocido", "dato fuera de 0000-1FFF",
-        "el archivo no da ningún byte", "la imagen pasa de 8192 bytes", "no es Intel HEX ni S-record"};
-    return {linea, motivos[static_cast<int>(falta)]};
+        "suma de verificación errónea", "tipo de registro desconocido", "dato fuera de 0000-",
+        "el archivo no da ningún byte", "la imagen pasa de ",           "no es Intel HEX ni S-record"};
+    std::string motivo = motivos[static_cast<int>(falta)];
+    if (falta == Falta::fuera) {
+        char ultima[8];
+        std::snprintf(ultima, sizeof ultima, "%04X", tamano - 1);
+        motivo += ultima;
+    } else if (falta == Falta::grande) {
+        motivo += std::to_string(tamano) + " bytes";
+    }
+    return {linea, motivo};
 }
 
 std::variant<std::vector<std::uint8_t>, Rechazo> bytesdelinea(const Linea& linea, std::size_t desde,
@@ -68,7 +77,7 @@ std::variant<std::vector<std::uint8_t>, Rechazo> bytesdelinea(const Linea& linea
 
 bool ponerdato(Imagen& imagen, std::uint64_t direccion, std::uint8_t valor)
 {
-    if (direccion >= tamanoimagen)
+    if (direccion >= static_cast<std::uint64_t>(imagen.tamano))
         return false;
     imagen.bytes[direccion] = valor;
     imagen.dado.set(direccion);

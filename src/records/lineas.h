@@ -27,7 +27,8 @@ std::vector<Linea> lineas(std::string_view texto);
 // Every reason a file is refused for; their Spanish texts live in lineas.cpp.
 enum class Falta { marca, caracter, longitud, suma, tipo, fuera, vacio, grande, formato };
 
-Rechazo rechazo(int linea, Falta falta);
+// The chip's size completes the texts of fuera and grande.
+Rechazo rechazo(int linea, Falta falta, int tamano = 0);
 
 // The bytes of a record line from a place on, checked: hexadecimal digits only, in pairs;
 // as many bytes as the first one counts, plus `sincontar` that it leaves out; and a sum of

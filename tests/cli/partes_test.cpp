@@ -56,6 +56,8 @@ TEST(Opciones, EachOrderTakesItsOwnSettingsAndWrongUseSaysWhatIsWrong)
         {{"grabar", "x", "--como-ventana", "--formato", "bin"},
          "--como-ventana lee Intel HEX y S-record, no imágenes binarias"},
         {{"leer", "-o", ""}, "-o pide un nombre de archivo"},
+        {{"--chip", "AT28C512", "leer"}, "--chip es AT28C64B o AT28C256, no AT28C512"},
+        {{"--chip", "28c256", "--lento", "leer"}, "--lento solo va con el AT28C64B"},
     };
     for (const auto& [palabras, esperado] : filas) {
         const std::string dicho =

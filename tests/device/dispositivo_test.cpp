@@ -75,7 +75,7 @@ TEST(Lectura, ReadsTheWholeChipIntoVectorleidoAndIntelHexLinesWithTheirChecksums
 TEST(Tramas, AnImageGoesOutInRunsCutAtBlocksAndIsVerifiedAfterACheck)
 {
     Banco banco;
-    Imagen imagen;
+    Imagen imagen(8192);
     for (const int direccion : {0x0E, 0x0F, 0x10, 0x12, 0x1FFF})
         imagen.dado.set(direccion), imagen.bytes[direccion] = direccion & 0xFF;
     const auto tramas = tramasdeimagen(imagen);

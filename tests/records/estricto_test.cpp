@@ -31,7 +31,7 @@ std::string resumen(const LecturaImagen& lectura)
 TEST(LectorEstricto, ChecksEveryLineAndRefusesTheFirstAtFaultByItsNumber)
 {
     // clang-format off
-    const std::tuple<const char*, LecturaImagen (*)(std::string_view), std::string, const char*> filas[] = {
+    const std::tuple<const char*, LecturaImagen (*)(std::string_view, int), std::string, const char*> filas[] = {
         {"lower-case digits, CR alone, trailing blanks", leertexto, ":02001000abcd76 \t\r\r:00000001ff\r", " 0010:ABCD"},
         {"lower-case S-records", leertexto, "s1050010abcd72\ns9030000fc\n", " 0010:ABCD"},
         {"a segment counts 16 bytes", leertexto, ":020000020100FB\n:01000000AA55\n", " 1000:AA"},
@@ -57,7 +57,11 @@ TEST(LectorEstricto, ChecksEveryLineAndRefusesTheFirstAtFaultByItsNumber)
         {"a binary image of 8193 bytes", leerbinario, std::string(8193, 'A'), "0: la imagen pasa de 8192 bytes"}};
     // clang-format on
     for (const auto& [nombre, leer, texto, esperado] : filas)
-        EXPECT_EQ(resumen(leer(texto)), esperado) << nombre;
+        EXPECT_EQ(resumen(leer(texto, 8192)), esperado) << nombre;
+    // A 32 KB chip: its last address, and the first past it.
+    EXPECT_EQ(resumen(leertexto(":017FFF00AAD7\n:01800000AAD5\n", 32768)), "2: dato fuera de 0000-7FFF");
+    EXPECT_EQ(resumen(leertexto("S205002000AA30\nS205007FFFAAD2\n", 32768)), " 2000:AA 7FFF:AA");
+    EXPECT_EQ(resumen(leerbinario(std::string(32769, 'A'), 32768)), "0: la imagen pasa de 32768 bytes");
 }
 
 // Files that the tools make of an image, against the tools' own binary output of each.
@@ -92,10 +96,10 @@ TEST(LectorEstricto, ReadsFilesOfOtherToolsAsTheirOwnBinaryOutput)
         const std::string cd = "cd " + carpeta + " && ";
         ASSERT_EQ(std::system((cd + orden + " && " + binario + " 2>/dev/null").c_str()), 0);
         const std::string hecho = leerarchivo(carpeta + "/esperado.bin").value();
-        Imagen esperada;
+        Imagen esperada(8192);
         for (std::size_t k = 0; k < hecho.size() && k < esperada.bytes.size(); ++k)
             esperada.bytes[k] = static_cast<std::uint8_t>(hecho[k]), esperada.dado[k] = hecho[k] != 0;
-        const LecturaImagen lectura = leertexto(leerarchivo(carpeta + "/salida").value());
+        const LecturaImagen lectura = leertexto(leerarchivo(carpeta + "/salida").value(), 8192);
         EXPECT_EQ(resumen(lectura), resumen(esperada));
         EXPECT_TRUE(std::holds_alternative<Imagen>(lectura) && std::get<Imagen>(lectura).bytes == esperada.bytes);
     }
