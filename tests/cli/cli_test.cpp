@@ -114,6 +114,30 @@ INSTANTIATE_TEST_SUITE_P(, OrdenPlaca,
                                          Tablero{"simulada10ms", EEPROG_SIMPLACA, {"--ciclo", "10000"}}),
                          [](const auto& info) { return std::string(info.param.nombre); });
 
+// A protected 28C256: read whole, programmed with a full 32 KB image through its protection
+// and verified, then unprotected by the sequence at its own addresses (a chip model that knew
+// only the AT28C64B's would keep it on). An AT28C64B read after it finds A13 and A14 let go:
+// its 8 KB are the chip's first. A 10 ms write cycle would add only time.
+TEST_P(OrdenPlaca, A28C256IsReadProgrammedAndUnprotected)
+{
+    if (!GetParam().opciones.empty())
+        GTEST_SKIP() << "the 28C256 is tried with the usual write cycle";
+    Chip256 antes, despues;
+    azar(antes, 21), azar(despues, 22);
+    const auto bytes = [](const Chip256& chip) { return std::string(chip.begin(), chip.end()); };
+    const auto tablero = placa({"--chip", "AT28C256", "--protegido", "--imagen", escribir(bytes(antes), "antes.bin"),
+                                "--volcado", carpeta + "/volcado.bin", "--estado", carpeta + "/estado"});
+    EXPECT_EQ(orden(*tablero, {"--chip", "28c256", "leer", "--formato", "bin"}).salida, bytes(antes));
+    const Corrida grabada =
+        orden(*tablero, {"--chip", "AT28C256", "grabar", "--verificar", escribir(bytes(despues), "despues.bin")});
+    EXPECT_EQ(grabada.estado, 0) << grabada.errores;
+    EXPECT_EQ(orden(*tablero, {"--chip", "AT28C256", "desproteger"}).estado, 0);
+    EXPECT_EQ(orden(*tablero, {"leer", "--formato", "bin"}).salida, bytes(despues).substr(0, 8192));
+    terminar(*tablero);
+    EXPECT_EQ(leer("volcado.bin"), bytes(despues));
+    EXPECT_EQ(leer("estado"), "desprotegido\n");
+}
+
 // Every shape of file leaves on the chip the bytes it gives, and nothing else, by the fast
 // protocol and by the old one: the rest of the chip, and of the pages the file touches,
 // keeps what it had. The whole chip by the old protocol is tried on the emulator alone,
@@ -163,8 +187,9 @@ TEST_P(OrdenPlaca, ProgrammingAndVerifyingLeaveTheChipTheFileGives)
     }
 }
 
-// By either protocol, the same difference in the same line.
-TEST_F(OrdenCli, AChangedByteOrAWrongEchoExitsOneNamingItsAddress)
+// By either protocol, the same difference in the same line; a wrong echo is named by its
+// address; a board whose program is older than the chip asked for says so.
+TEST_F(OrdenCli, AChangedByteAWrongEchoOrAnOlderBoardEndTheRunSayingWhy)
 {
     Chip chip;
     azar(chip, 8);
@@ -180,6 +205,13 @@ TEST_F(OrdenCli, AChangedByteOrAWrongEchoExitsOneNamingItsAddress)
         EXPECT_EQ(corrida.estado, 1);
         EXPECT_EQ(corrida.salida, linea + std::string("8192 bytes verificados, 1 diferencia\n"));
     }
+
+    Emulador antigua({"--lenta"});
+    const Corrida anterior = correr({"--chip", "AT28C256", "--puerto", antigua.ruta(), "leer"});
+    EXPECT_EQ(anterior.errores + std::to_string(anterior.estado),
+              "eeprog-cli: " + antigua.ruta() +
+                  ": el programa de la placa es anterior al AT28C256, que pide la versión 2 de su protocolo rápido: "
+                  "grabe en ella el de esta versión de eeprog\n4");
 
     Emulador sordo({"--eco-erroneo", "3", "--lenta"});
     const Corrida eco = correr({"--puerto", sordo.ruta(), "grabar", escribir(":0300100041424327\n", "abc.hex")});
@@ -362,9 +394,10 @@ TEST_P(OrdenPlaca, AProtectedChipIsProgrammedAndKeepsItsProtection)
     }
     if (!simulada())
         return;
-    // A "d" heard with a framing error, as noise leaves a byte, gets no reply and changes nothing.
+    // The old protocol's "d" heard with a framing error, as noise leaves a byte, gets no reply
+    // and changes nothing.
     const auto ruidosa = placa({"--protegido", "--ruido", "2", "--estado", carpeta + "/estado"});
-    EXPECT_EQ(orden(*ruidosa, {"desproteger"}).estado, 4);
+    EXPECT_EQ(orden(*ruidosa, {"--lento", "desproteger"}).estado, 4);
     terminar(*ruidosa);
     EXPECT_EQ(leer("estado"), "protegido\n");
     const auto muerto = placa({"--chip-muerto"});
@@ -451,6 +484,10 @@ TEST_F(OrdenCli, WrongInputOrNoBoardEndsInOneLineAndSendsNothing)
         {"unwritable output", {"leer", "-o", carpeta + "/no/chip.hex"}, 3, "no se puede escribir el archivo"},
         {"missing device", {"--puerto", carpeta + "/ttyUSB9", "leer"}, 4, "no se puede abrir el dispositivo"},
         {"mute board", {"comprobar"}, 4, ": Programador..... NO EXISTE CONECCION", "c"},
+        {"data past the chip",
+         {"grabar", escribir(":01200000AA35\n", "alto.hex")},
+         3,
+         "alto.hex, línea 1: dato fuera de 0000-1FFF (el AT28C64B); cabe en el AT28C256: --chip AT28C256"},
     };
     for (const auto& fila : filas) {
         SCOPED_TRACE(fila.nombre);

@@ -8,9 +8,10 @@
 namespace eeprog::prueba {
 
 using Chip = std::array<unsigned char, 8192>;
+using Chip256 = std::array<unsigned char, 32768>;
 
 // A chip full of bytes that no two tests share by chance.
-inline void azar(Chip& chip, unsigned semilla)
+template <typename Bytes> void azar(Bytes& chip, unsigned semilla)
 {
     std::mt19937 generador(semilla);
     for (unsigned char& byte : chip)
@@ -19,7 +20,7 @@ inline void azar(Chip& chip, unsigned semilla)
 
 // The Intel HEX text a whole-chip read should give, built with printf rather than the
 // program's own hexadecimal routines: one 16-byte data line a block, CR LF after each.
-inline std::string lineashex(const Chip& chip)
+template <typename Bytes> std::string lineashex(const Bytes& chip)
 {
     std::string texto;
     char pieza[16];

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <tuple>
 
 namespace {
 
@@ -67,8 +68,7 @@ TEST(ChipModelo, SoftwareDataProtection)
 // say when, where and what, as the simulated board's --faltas file gives them.
 TEST(ChipModelo, BrokenRulesAreFaults)
 {
-    ChipModelo::Memoria setentaysiete;
-    setentaysiete.fill(0x77);
+    const ChipModelo::Memoria setentaysiete(8192, 0x77);
     const struct {
         const char* nombre;
         const char* faltas; // the faults the chip recorded, one a line
@@ -175,6 +175,36 @@ TEST(ChipModelo, BrokenRulesAreFaults)
             faltas += (faltas.empty() ? "" : "\n") + falta;
         EXPECT_EQ(faltas, fila.faltas);
     }
+}
+
+// A protected 28C256 turns its protection off only by the sequence at its own addresses,
+// 0x5555 and 0x2AAA; the AT28C64B's leave it on and the data unwritten. Its top page is
+// reached through A13 and A14.
+TEST(ChipModelo, The28C256TakesItsOwnSequence)
+{
+    for (const auto& [clave1, clave2, protegido] : {std::tuple{0x1555, 0x0AAA, true}, {0x5555, 0x2AAA, false}}) {
+        ChipModelo chip({}, 1'000'000, true, false, *eeprog::buscartipo("28c256"));
+        std::int64_t t = despierto;
+        const auto c1 = static_cast<std::uint16_t>(clave1), c2 = static_cast<std::uint16_t>(clave2);
+        for (const auto& [direccion, valor] :
+             {Carga{c1, 0xAA}, {c2, 0x55}, {c1, 0x80}, {c1, 0xAA}, {c2, 0x55}, {c1, 0x20}, {0x7FC1, 0x5A}})
+            t = cargar(chip, t, direccion, valor);
+        chip.avanzar(t + 2'000'000);
+        EXPECT_EQ(chip.protegido(), protegido) << std::hex << clave1;
+        EXPECT_EQ(chip.memoria()[0x7FC1], protegido ? 0x00 : 0x5A) << std::hex << clave1;
+    }
+}
+
+// Pin 1 of the AT28C64 without B is its RDY/BUSY output: driving A14 there, or A13, is a fault.
+TEST(ChipModelo, DrivingA13OrA14AgainstAnAT28C64IsAFault)
+{
+    ChipModelo chip({}, 1'000'000, false, false, *eeprog::buscartipo("AT28C64"));
+    chip.cambiar({.altas = 0}, 100);
+    chip.cambiar({.altas = 2}, 200);
+    chip.cambiar({.ce = false, .altas = 2}, 300);
+    ASSERT_EQ(chip.faltas().size(), 1u);
+    EXPECT_EQ(chip.faltas().front(),
+              "200 ns: A13 o A14 conducidas (0x2) con un AT28C64 en el zócalo: su pata 1 es la salida RDY/BUSY");
 }
 
 } // namespace

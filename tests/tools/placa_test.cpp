@@ -117,7 +117,7 @@ TEST(EeprogPlaca, ServesSessionsDumpsTheChipOnExitAndRefusesBadOptions)
     EXPECT_EQ(conversar(emulador.ruta(), "r\1\0\x20\0\0"s), "r\1\0\x20\0\xFF"s);
     EXPECT_EQ(emulador.terminar(), 0);
     EXPECT_FALSE(std::filesystem::is_symlink(carpeta + "/com1"));
-    std::array<unsigned char, 8192> chip{};
+    std::vector<unsigned char> chip(8192);
     EXPECT_EQ(std::filesystem::file_size(carpeta + "/volcado.bin"), 8192u);
     EXPECT_TRUE(eeprog::cargarimagen(carpeta + "/volcado.bin", chip));
     EXPECT_EQ(std::string(chip.begin(), chip.begin() + 3) + std::string(chip.begin() + 0x10, chip.begin() + 0x14),
@@ -148,6 +148,12 @@ TEST(EeprogPlaca, WhatItCannotTakeEndsItWithALineSayingWhy)
         {EEPROG_PLACA, {"--volcado", "/nohay/v.bin"}, 1, "eeprog-placa: no se puede escribir el volcado /nohay/v.bin"},
         {EEPROG_SIMPLACA, {"--ciclo", "0"}, 2, "eeprog-simplaca: --ciclo pide microsegundos, de 1 a 1000000: 0"},
         {EEPROG_SIMPLACA, {"--ruido", "1x"}, 2, "eeprog-simplaca: --ruido pide un número mayor que 0: 1x"},
+        {EEPROG_SIMPLACA, {"--nada"}, 2, "eeprog-simplaca: opción no válida o sin su valor: --nada"},
+        {EEPROG_PLACA, {"--chip", "27C256"}, 2, "eeprog-placa: --chip pide AT28C64B o AT28C256: 27C256"},
+        {EEPROG_SIMPLACA,
+         {"--chip", "AT28C64X"},
+         2,
+         "eeprog-simplaca: --chip pide AT28C64B, AT28C256 o AT28C64: AT28C64X"},
         {EEPROG_SIMPLACA,
          {"--firmware", "/nohay/f.elf"},
          1,

@@ -1,5 +1,6 @@
 #include "argumentos.h"
 
+#include "link/modelo.h"
 #include "orden.h"
 
 #include <iostream>
@@ -24,7 +25,8 @@ enum Opcion {
     lenta,
     ciclo,
     byteerroneo,
-    respuestaerronea
+    respuestaerronea,
+    chip
 };
 
 constexpr long ciclomaximo = 1'000'000;
@@ -44,6 +46,7 @@ const option opciones[] = {
     {"ciclo", required_argument, nullptr, ciclo},
     {"byte-erroneo", required_argument, nullptr, byteerroneo},
     {"respuesta-erronea", required_argument, nullptr, respuestaerronea},
+    {"chip", required_argument, nullptr, chip},
     {"ayuda", no_argument, nullptr, ayuda},
     {"help", no_argument, nullptr, ayuda},
     {nullptr, 0, nullptr, 0},
@@ -103,6 +106,13 @@ bool tomar(int opcion, const char* valor, Argumentos& argumentos)
         }
         std::cerr << "eeprog-placa: --ciclo pide microsegundos, de 1 a " << ciclomaximo << ": " << valor << '\n';
         return false;
+    case chip:
+        if (const Modelo* modelo = buscarmodelo(valor)) {
+            argumentos.placa.zocalo = modelo->numero;
+            return true;
+        }
+        std::cerr << "eeprog-placa: --chip pide AT28C64B o AT28C256: " << valor << '\n';
+        return false;
     case ecoerroneo:
         return cuenta("--eco-erroneo", valor, argumentos.placa.ecoerroneo);
     case byteerroneo:
@@ -128,12 +138,13 @@ std::optional<Argumentos> leerargumentos(int argc, char* argv[])
 std::string uso()
 {
     return "Uso: eeprog-placa [OPCIONES]\n"
-           "Emula la placa programadora con su AT28C64B en un pseudoterminal.\n"
+           "Emula la placa programadora con su chip en un pseudoterminal.\n"
            "La primera línea de la salida es la ruta del puerto; eeprog lo usa con\n"
            "EEPROG_COM1=RUTA. La placa sigue activa hasta Ctrl+C.\n"
            "\n"
            "  --imagen ARCHIVO     contenido inicial del chip (binario, desde 0x0000)\n"
-           "  --volcado ARCHIVO    guarda el chip entero (8192 bytes) al terminar\n"
+           "  --volcado ARCHIVO    guarda el chip entero al terminar\n"
+           "  --chip MODELO        el chip del zócalo: AT28C64B (el de siempre) o AT28C256\n"
            "  --enlace RUTA        crea también el enlace RUTA hacia el puerto\n"
            "  --ritmo              responde al paso de una línea real, a 9600 baudios\n"
            "                       o a 115200 con el protocolo rápido\n"

@@ -4,7 +4,7 @@
 
 namespace eeprog {
 
-bool cargarimagen(const std::string& ruta, std::array<unsigned char, 8192>& chip)
+bool cargarimagen(const std::string& ruta, std::vector<unsigned char>& chip)
 {
     std::ifstream archivo(ruta, std::ios::binary);
     if (!archivo) {
@@ -15,7 +15,7 @@ bool cargarimagen(const std::string& ruta, std::array<unsigned char, 8192>& chip
     return !archivo.bad();
 }
 
-bool volcarimagen(const std::string& ruta, const std::array<unsigned char, 8192>& chip)
+bool volcarimagen(const std::string& ruta, const std::vector<unsigned char>& chip)
 {
     std::ofstream archivo(ruta, std::ios::binary | std::ios::trunc);
     archivo.write(reinterpret_cast<const char*>(chip.data()), static_cast<std::streamsize>(chip.size()));

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <array>
 #include <string>
+#include <vector>
 
 namespace eeprog {
 
@@ -9,10 +9,10 @@ namespace eeprog {
 
 // A shorter file fills the chip from address 0 and leaves the rest as it was; a longer one
 // is cut at the chip's end. False when the file cannot be read.
-bool cargarimagen(const std::string& ruta, std::array<unsigned char, 8192>& chip);
+bool cargarimagen(const std::string& ruta, std::vector<unsigned char>& chip);
 
-// Writes all 8192 bytes. False when the file cannot be written.
-bool volcarimagen(const std::string& ruta, const std::array<unsigned char, 8192>& chip);
+// Writes the whole chip. False when the file cannot be written.
+bool volcarimagen(const std::string& ruta, const std::vector<unsigned char>& chip);
 
 // The chip's software data protection as the board leaves it, one line: "protegido" or
 // "desprotegido". False when the file cannot be written.

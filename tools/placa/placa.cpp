@@ -1,5 +1,6 @@
 #include "placa.h"
 
+#include "link/modelo.h"
 #include "link/protocolo.h"
 
 #include <algorithm>
@@ -9,6 +10,9 @@ namespace eeprog {
 
 // The program waits out the board's idle time, which the board's own table sets.
 static_assert(protocolo::reposo == TIEMPOREPOSO);
+// The program's description of each chip and the board's are the same chips.
+static_assert(at28c64b.numero == MODELOAT28C64B && at28c256.numero == MODELOAT28C256 &&
+              std::size(eeprog::modelos) == MODELOS);
 
 namespace {
 
@@ -19,9 +23,10 @@ Placa& placade(void* contexto)
 
 } // namespace
 
-Placa::Placa(OpcionesPlaca opciones) : opciones(opciones), protegido_(opciones.protegido)
+// An erased EEPROM reads all ones.
+Placa::Placa(OpcionesPlaca opciones)
+    : opciones(opciones), memoria(::modelos[opciones.zocalo].tamano, 0xFF), protegido_(opciones.protegido)
 {
-    memoria.fill(0xFF); // an erased EEPROM reads all ones
     iniciarprotocolo(&protocolo_);
 }
 
@@ -46,6 +51,7 @@ void Placa::silencio()
     if (enrapido)
         protocolo_.protegido = rapido_.protegido;
     enrapido = false;
+    elegido = &::modelos[MODELOAT28C64B];
     volverareposo(&protocolo_);
 }
 
@@ -54,14 +60,9 @@ void Placa::hueco()
     rapidohueco(&rapido_);
 }
 
-std::array<unsigned char, Placa::tamano>& Placa::chip()
+std::size_t Placa::celda(unsigned direccion) const
 {
-    return memoria;
-}
-
-const std::array<unsigned char, Placa::tamano>& Placa::chip() const
-{
-    return memoria;
+    return direccion & (elegido->tamano - 1u) & (memoria.size() - 1);
 }
 
 // Whatever the first byte was, the board hangs after it: a check passes, nothing else does.
@@ -81,17 +82,19 @@ std::string Placa::ensilencio(unsigned char byte)
 ::chip Placa::bus()
 {
     static constexpr auto leer = [](void* contexto, std::uint16_t direccion) -> std::uint8_t {
-        return placade(contexto).memoria[direccion];
+        const Placa& placa = placade(contexto);
+        return placa.memoria[placa.celda(direccion)];
     };
     static constexpr auto escribir = [](void* contexto, std::uint16_t direccion, std::uint8_t dato) {
         Placa& placa = placade(contexto);
         ++placa.ciclos_;
         if (!placa.protegido_)
-            placa.memoria[direccion] = dato;
+            placa.memoria[placa.celda(direccion)] = dato;
     };
     static constexpr auto escribirprotegido = [](void* contexto, std::uint16_t direccion, std::uint8_t dato) {
-        ++placade(contexto).ciclos_;
-        placade(contexto).memoria[direccion] = dato;
+        Placa& placa = placade(contexto);
+        ++placa.ciclos_;
+        placa.memoria[placa.celda(direccion)] = dato;
     };
     static constexpr auto desproteger = [](void* contexto) { placade(contexto).protegido_ = false; };
     static constexpr auto proteger = [](void* contexto) { placade(contexto).protegido_ = true; };
@@ -101,14 +104,23 @@ std::string Placa::ensilencio(unsigned char byte)
         ++placa.ciclos_;
         for (unsigned i = 0; i < TAMANOPAGINA; ++i)
             if ((mascara[i / 8] >> (i % 8) & 1) && (protegida || !placa.protegido_))
-                placa.memoria[direccion + i] = datos[i];
+                placa.memoria[placa.celda(direccion + i)] = datos[i];
     };
     static constexpr auto ocupado = [](void*) -> std::uint8_t { return 0; };
-    static constexpr auto leerpagina = [](void* contexto, std::uint16_t direccion, std::uint8_t* destino) {
-        const auto& memoria = placade(contexto).memoria;
-        std::copy_n(memoria.begin() + direccion, TAMANOPAGINA, destino);
+    static constexpr auto leerpagina = [](void* contexto, std::uint16_t direccion, std::uint8_t* destino,
+                                          const std::uint8_t* datos, const std::uint8_t* mascara) -> std::uint8_t {
+        const Placa& placa = placade(contexto);
+        bool bien = true;
+        for (unsigned i = 0; i < TAMANOPAGINA; ++i) {
+            destino[i] = placa.memoria[placa.celda(direccion + i)];
+            bien = bien && (destino[i] == datos[i] || (mascara[i / 8] >> (i % 8) & 1) == 0);
+        }
+        return bien;
     };
-    return {leer, escribir, escribirprotegido, desproteger, proteger, cargarpagina, ocupado, leerpagina, this};
+    static constexpr auto elegir = [](void* contexto, const struct modelo* modelo) {
+        placade(contexto).elegido = modelo;
+    };
+    return {leer, escribir, escribirprotegido, desproteger, proteger, cargarpagina, ocupado, leerpagina, elegir, this};
 }
 
 // A data byte heard wrong is what the firmware receives: it stores and echoes it so. The

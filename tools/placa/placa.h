@@ -3,29 +3,30 @@
 #include "protocolo.h"
 #include "rapido.h"
 
-#include <array>
 #include <string>
+#include <vector>
 
 namespace eeprog {
 
 // Faults a board can be made to show, so the program's failure paths can be tried.
 struct OpcionesPlaca {
-    bool muda = false;         // never answers: no board, or a dead one
-    bool silenciosa = false;   // answers the first check of a session, then hangs until reopened
-    long ecoerroneo = 0;       // the Nth written data byte (from 1, over the board's life) is heard wrong
-    bool protegido = false;    // the chip starts with its software data protection on
-    bool lenta = false;        // an older firmware: the fast protocol's question is echoed
-    long byteerroneo = 0;      // the Nth byte heard in the fast protocol (from 1) has a bit changed
-    long respuestaerronea = 0; // and the Nth byte sent in it
+    bool muda = false;           // never answers: no board, or a dead one
+    bool silenciosa = false;     // answers the first check of a session, then hangs until reopened
+    long ecoerroneo = 0;         // the Nth written data byte (from 1, over the board's life) is heard wrong
+    bool protegido = false;      // the chip starts with its software data protection on
+    bool lenta = false;          // an older firmware: the fast protocol's question is echoed
+    long byteerroneo = 0;        // the Nth byte heard in the fast protocol (from 1) has a bit changed
+    long respuestaerronea = 0;   // and the Nth byte sent in it
+    int zocalo = MODELOAT28C64B; // the chip in the socket, as the firmware's table numbers it
 };
 
-// The programmer board: the firmware's own protocol table over an AT28C64B held in memory,
-// with the faults of the options around it. Its state lasts as long as the board: a frame
-// left half way ends only by a silence, as on the real board.
+// The programmer board: the firmware's own protocol table over a chip held in memory, with
+// the faults of the options around it. Its state lasts as long as the board: a frame left
+// half way ends only by a silence, as on the real board. An operation for a chip with fewer
+// address lines than the socket's leaves the upper ones low; one for a chip with more
+// reaches the socket's through the lines it has.
 class Placa {
 public:
-    static constexpr int tamano = TAMANOCHIP;
-
     explicit Placa(OpcionesPlaca opciones = {});
 
     // One byte from the program, and what the board answers to it: one byte in the old
@@ -41,8 +42,8 @@ public:
     // The line's speed now: 9600, or the fast protocol's.
     long baudios() const { return enrapido ? BAUDIOSRAPIDO : 9600; }
 
-    std::array<unsigned char, tamano>& chip();
-    const std::array<unsigned char, tamano>& chip() const;
+    std::vector<unsigned char>& chip() { return memoria; }
+    const std::vector<unsigned char>& chip() const { return memoria; }
     bool protegido() const { return protegido_; }
     // The chip's write cycles so far, taken or ignored: what wears it.
     int ciclos() const { return ciclos_; }
@@ -52,9 +53,11 @@ private:
     std::string atender(unsigned char byte);
     std::string rapido(unsigned char byte);
     ::chip bus();
+    std::size_t celda(unsigned direccion) const;
 
     OpcionesPlaca opciones;
-    std::array<unsigned char, tamano> memoria;
+    std::vector<unsigned char> memoria;
+    const struct modelo* elegido = &::modelos[MODELOAT28C64B];
     bool protegido_;
     int ciclos_ = 0;
     struct protocolo protocolo_ {};

@@ -1,6 +1,7 @@
 #include "chipmodelo.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstdio>
 #include <limits>
 
@@ -16,7 +17,6 @@ constexpr std::int64_t pulsominimo = 100;
 constexpr std::int64_t preparaciondato = 50;   // tDS
 constexpr std::int64_t ventanacarga = 150'000; // tBLC
 constexpr std::int64_t inhibicion = 5'000'000; // writes refused after power-up
-constexpr std::uint16_t pagina = 0x1FC0;       // A6-A12 choose the 64-byte page
 
 struct Paso {
     std::uint16_t direccion;
@@ -24,14 +24,25 @@ struct Paso {
 };
 
 // The software data protection's command sequences, loaded as the start of a page load.
-constexpr Paso activar[] = {{0x1555, 0xAA}, {0x0AAA, 0x55}, {0x1555, 0xA0}};
-constexpr Paso desactivar[] = {{0x1555, 0xAA}, {0x0AAA, 0x55}, {0x1555, 0x80},
-                               {0x1555, 0xAA}, {0x0AAA, 0x55}, {0x1555, 0x20}};
+std::array<Paso, 3> activar(const TipoChip& tipo)
+{
+    return {{{tipo.clave1, 0xAA}, {tipo.clave2, 0x55}, {tipo.clave1, 0xA0}}};
+}
 
-template <typename Cargas, std::size_t N> bool empiezacon(const Cargas& cargas, const Paso (&secuencia)[N])
+std::array<Paso, 6> desactivar(const TipoChip& tipo)
+{
+    return {{{tipo.clave1, 0xAA},
+             {tipo.clave2, 0x55},
+             {tipo.clave1, 0x80},
+             {tipo.clave1, 0xAA},
+             {tipo.clave2, 0x55},
+             {tipo.clave1, 0x20}}};
+}
+
+template <typename Cargas, std::size_t N> bool empiezacon(const Cargas& cargas, const std::array<Paso, N>& secuencia)
 {
     return cargas.size() >= N &&
-           std::equal(secuencia, secuencia + N, cargas.begin(), [](const Paso& paso, auto& carga) {
+           std::equal(secuencia.begin(), secuencia.end(), cargas.begin(), [](const Paso& paso, auto& carga) {
                return paso.direccion == carga.direccion && paso.dato == carga.dato;
            });
 }
@@ -57,9 +68,23 @@ std::string hexadecimal(unsigned valor, int cifras)
 
 } // namespace
 
-ChipModelo::ChipModelo(const Memoria& contenido, std::int64_t ciclo, bool protegido, bool muerto)
-    : celdas(contenido), ciclo(ciclo), proteccion(protegido), muerto(muerto)
+const TipoChip* buscartipo(std::string_view nombre)
 {
+    const auto igual = [](std::string_view a, std::string_view b) {
+        return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+            return std::toupper(static_cast<unsigned char>(x)) == std::toupper(static_cast<unsigned char>(y));
+        });
+    };
+    for (const TipoChip& tipo : tiposchip)
+        if (igual(nombre, tipo.nombre) || igual(nombre, std::string_view(tipo.nombre).substr(2)))
+            return &tipo;
+    return nullptr;
+}
+
+ChipModelo::ChipModelo(Memoria contenido, std::int64_t ciclo, bool protegido, bool muerto, const TipoChip& tipo)
+    : tipo(tipo), celdas(std::move(contenido)), ciclo(ciclo), proteccion(protegido), muerto(muerto)
+{
+    celdas.resize(static_cast<std::size_t>(tipo.tamano), 0);
     cambiodato.fill(std::numeric_limits<std::int64_t>::min() / 2);
 }
 
@@ -85,6 +110,9 @@ void ChipModelo::cambiar(const Patas& nuevas, std::int64_t ahora)
         alterno = !alterno;
     anotarcambios(antes, ahora);
     vigilarconflicto(ahora);
+    if (tipo.listo && nuevas.altas != 0 && antes.altas == 0)
+        anotar(ahora, std::string("A13 o A14 conducidas (") + hexadecimal(nuevas.altas, 1) + ") con un " + tipo.nombre +
+                          " en el zócalo: su pata 1 es la salida RDY/BUSY");
 }
 
 // A pulse still going holds the load window open: the chip counts it from the pulse's end.
@@ -107,7 +135,7 @@ std::optional<std::uint8_t> ChipModelo::salida() const
         return std::nullopt;
     if (estado != Estado::reposo)
         return static_cast<std::uint8_t>(ultimo ^ 0x80 ^ (alterno ? 0x40 : 0));
-    return celdas[patas.direccion & (tamano - 1)];
+    return celdas[celda(patas.direccion)];
 }
 
 // Bits the microcontroller drives read as it drives them, the chip's once its access times
@@ -122,7 +150,7 @@ std::uint8_t ChipModelo::muestrear(std::int64_t cuando)
     auto valor = static_cast<std::uint8_t>((patas.datos & patas.conducidos) | (valido ? *propio & ajenos : 0));
     if (valido || ajenos == 0)
         return valor;
-    const std::string donde = "lectura del bus de datos en " + hexadecimal(patas.direccion & (tamano - 1), 4);
+    const std::string donde = "lectura del bus de datos en " + hexadecimal(celda(patas.direccion), 4);
     if (propio)
         anotar(cuando, donde + " " + std::to_string(valida - cuando) +
                            " ns antes de que el chip dé el dato; los bits " + hexadecimal(ajenos, 2) + " aún no valen");
@@ -141,7 +169,7 @@ bool ChipModelo::pulsando(const Patas& estas) const
 void ChipModelo::empezarpulso(std::int64_t ahora)
 {
     iniciopulso = ahora;
-    direccionpulso = patas.direccion & (tamano - 1);
+    direccionpulso = static_cast<std::uint16_t>(celda(patas.direccion));
 }
 
 void ChipModelo::acabarpulso(const Patas& capturadas, std::int64_t ahora)
@@ -205,12 +233,12 @@ void ChipModelo::empezarciclo()
 {
     protecciondespues = proteccion;
     std::size_t ordenes = 0;
-    if (empiezacon(cargas, desactivar)) {
+    if (empiezacon(cargas, desactivar(tipo))) {
         protecciondespues = false;
-        ordenes = std::size(desactivar);
-    } else if (empiezacon(cargas, activar)) {
+        ordenes = desactivar(tipo).size();
+    } else if (empiezacon(cargas, activar(tipo))) {
         protecciondespues = true;
-        ordenes = std::size(activar);
+        ordenes = activar(tipo).size();
     }
     pendientes = enpagina(cargas.begin() + static_cast<std::ptrdiff_t>(ordenes));
     if (ordenes == 0 && proteccion)
@@ -225,15 +253,16 @@ void ChipModelo::empezarciclo()
 std::vector<ChipModelo::Carga> ChipModelo::enpagina(std::vector<Carga>::const_iterator desde)
 {
     std::vector<Carga> dentro;
-    const unsigned propia = desde == cargas.end() ? 0 : desde->direccion & pagina;
+    const unsigned propia = desde == cargas.end() ? 0 : desde->direccion & pagina();
     for (auto carga = desde; carga != cargas.end(); ++carga) {
-        if ((carga->direccion & pagina) == propia) {
+        if ((carga->direccion & pagina()) == propia) {
             dentro.push_back(*carga);
             continue;
         }
         anotar(carga->cuando, "carga de " + hexadecimal(carga->dato, 2) + " en " + hexadecimal(carga->direccion, 4) +
                                   " fuera de la página " + hexadecimal(propia, 4) + "-" +
-                                  hexadecimal(propia | (tamano - 1 - pagina), 4) + " de su carga; no se escribe");
+                                  hexadecimal(propia | (tipo.tamano - 1 - pagina()), 4) +
+                                  " de su carga; no se escribe");
     }
     return dentro;
 }
@@ -255,7 +284,7 @@ void ChipModelo::vigilarconflicto(std::int64_t ahora)
     const bool ambos = conduce(patas) && patas.conducidos != 0;
     if (ambos && !enconflicto)
         anotar(ahora, "el chip y el microcontrolador conducen a la vez el bus de datos (bits " +
-                          hexadecimal(patas.conducidos, 2) + ") en " + hexadecimal(patas.direccion & (tamano - 1), 4));
+                          hexadecimal(patas.conducidos, 2) + ") en " + hexadecimal(celda(patas.direccion), 4));
     enconflicto = ambos;
 }
 

@@ -5,13 +5,15 @@
 #include <optional>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace eeprog {
 
-// The AT28C64B's pins at one moment. Control lines are their levels (true is high, the idle
+// The chip's pins at one moment. Control lines are their levels (true is high, the idle
 // state of the active-low /CE, /OE and /WE); datos is what the microcontroller puts on the
-// data bus, and conducidos which of its bits it drives.
+// data bus, and conducidos which of its bits it drives. A13 and A14 count in the address
+// only while driven; altas says which are (bit 0 A13, on pin 26; bit 1 A14, on pin 1).
 struct Patas {
     bool ce = true;
     bool oe = true;
@@ -19,7 +21,28 @@ struct Patas {
     std::uint16_t direccion = 0;
     std::uint8_t datos = 0;
     std::uint8_t conducidos = 0;
+    std::uint8_t altas = 0;
 };
+
+// The chips the socket can hold, from their data sheets, apart from the program's own
+// description of them so that a mistake there shows here: the bytes, the two addresses of
+// the software data protection's sequences, and whether pin 1 is an output of the chip (the
+// AT28C64 without B has RDY/BUSY there), which nothing may drive.
+struct TipoChip {
+    const char* nombre;
+    int tamano;
+    std::uint16_t clave1, clave2;
+    bool listo;
+};
+
+inline constexpr TipoChip tiposchip[] = {
+    {"AT28C64B", 8192, 0x1555, 0x0AAA, false},
+    {"AT28C256", 32768, 0x5555, 0x2AAA, false},
+    {"AT28C64", 8192, 0x1555, 0x0AAA, true},
+};
+
+// The type a user names, with or without "AT", in any case; null for none.
+const TipoChip* buscartipo(std::string_view nombre);
 
 // The chip as the microcontroller's pins see it, with time in nanoseconds from power-up:
 // whoever drives it tells it every change of its pins and lets its own time pass, and it
@@ -27,11 +50,12 @@ struct Patas {
 // suffer from, and shows their effects.
 class ChipModelo {
 public:
-    static constexpr int tamano = 8192;
-    using Memoria = std::array<std::uint8_t, tamano>;
+    using Memoria = std::vector<std::uint8_t>;
 
     // A dead chip (muerto) runs its write cycles and keeps nothing written, as a worn-out part.
-    ChipModelo(const Memoria& contenido, std::int64_t ciclo, bool protegido, bool muerto = false);
+    // Cells the content does not reach hold 0.
+    ChipModelo(Memoria contenido, std::int64_t ciclo, bool protegido, bool muerto = false,
+               const TipoChip& tipo = tiposchip[0]);
 
     // The pins as they are from the moment ahora on.
     void cambiar(const Patas& nuevas, std::int64_t ahora);
@@ -71,7 +95,10 @@ private:
     void vigilarconflicto(std::int64_t ahora);
     void anotarcambios(const Patas& antes, std::int64_t ahora);
     std::uint8_t flotar(std::uint8_t bits, std::uint8_t evitar);
+    unsigned celda(std::uint16_t direccion) const { return direccion & (tipo.tamano - 1u); }
+    unsigned pagina() const { return (tipo.tamano - 1u) & ~63u; }
 
+    const TipoChip& tipo;
     Memoria celdas;
     std::int64_t ciclo;
     bool proteccion;

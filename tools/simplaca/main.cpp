@@ -167,13 +167,12 @@ int main(int argc, char* argv[])
     const std::string firmware = opciones->firmware.empty() ? eeprog::buscarfirmware() : opciones->firmware;
     if (firmware.empty())
         return 2;
-    eeprog::ChipModelo::Memoria contenido;
-    contenido.fill(0xFF);
+    eeprog::ChipModelo::Memoria contenido(static_cast<std::size_t>(opciones->chip->tamano), 0xFF);
     if (!opciones->imagen.empty() && !eeprog::cargarimagen(opciones->imagen, contenido)) {
         std::cerr << "eeprog-simplaca: no se puede leer la imagen " << opciones->imagen << '\n';
         return 1;
     }
-    eeprog::ChipModelo chip(contenido, opciones->ciclo * 1000, opciones->protegido, opciones->muerto);
+    eeprog::ChipModelo chip(contenido, opciones->ciclo * 1000, opciones->protegido, opciones->muerto, *opciones->chip);
     std::string error;
     auto placa = eeprog::PlacaSimulada::crear(firmware, chip, error);
     if (!placa) {

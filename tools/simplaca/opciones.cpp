@@ -9,7 +9,21 @@ namespace eeprog {
 
 namespace {
 
-enum Clave { firmware = 1, enlace, imagen, volcado, faltas, protegido, ciclo, ayuda, muerto, estado, ruido, tiempos };
+enum Clave {
+    firmware = 1,
+    enlace,
+    imagen,
+    volcado,
+    faltas,
+    protegido,
+    ciclo,
+    ayuda,
+    muerto,
+    estado,
+    ruido,
+    tiempos,
+    chip
+};
 
 const option claves[] = {
     {"firmware", required_argument, nullptr, firmware},
@@ -23,6 +37,7 @@ const option claves[] = {
     {"ayuda", no_argument, nullptr, ayuda},
     {"help", no_argument, nullptr, ayuda},
     {"chip-muerto", no_argument, nullptr, muerto},
+    {"chip", required_argument, nullptr, chip},
     {"estado", required_argument, nullptr, estado},
     {"ruido", required_argument, nullptr, ruido},
     {nullptr, 0, nullptr, 0},
@@ -55,6 +70,11 @@ bool tomar(int clave, const char* valor, Opciones& opciones)
     case ayuda:
         opciones.ayuda = true;
         return true;
+    case chip:
+        opciones.chip = buscartipo(valor);
+        if (opciones.chip == nullptr)
+            std::cerr << "eeprog-simplaca: --chip pide AT28C64B, AT28C256 o AT28C64: " << valor << '\n';
+        return opciones.chip != nullptr;
     case muerto:
         opciones.muerto = true;
         return true;
@@ -108,7 +128,9 @@ std::string usosimulada()
            "  --enlace RUTA        crea también el enlace RUTA hacia el puerto\n"
            "  --imagen ARCHIVO     contenido inicial del chip (binario, desde 0x0000);\n"
            "                       sin él, el chip está borrado (todo FF)\n"
-           "  --volcado ARCHIVO    guarda el chip entero (8192 bytes) al terminar\n"
+           "  --volcado ARCHIVO    guarda el chip entero al terminar\n"
+           "  --chip MODELO        el chip del zócalo: AT28C64B (el de siempre), AT28C256,\n"
+           "                       o AT28C64 (sin B), cuya pata 1 es su salida RDY/BUSY\n"
            "  --protegido          el chip empieza con la protección de datos puesta\n"
            "  --ciclo MICROSEGUNDOS  duración del ciclo de escritura del chip (1000)\n"
            "  --faltas ARCHIVO     al terminar, escribe una línea por cada falta en el\n"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "chipmodelo.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -17,8 +19,9 @@ struct Opciones {
     std::string tiempos;
     bool protegido = false;
     bool muerto = false;
-    std::int64_t ciclo = 1000; // the chip's write cycle, in microseconds
-    long ruido = 0;            // the byte from the program heard with a framing error, from 1
+    const TipoChip* chip = &tiposchip[0]; // what the socket holds
+    std::int64_t ciclo = 1000;            // the chip's write cycle, in microseconds
+    long ruido = 0;                       // the byte from the program heard with a framing error, from 1
     bool ayuda = false;
 };
 

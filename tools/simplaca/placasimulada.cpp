@@ -19,11 +19,13 @@ namespace eeprog {
 namespace {
 
 constexpr const char* micro = "atmega16";
-constexpr std::uint8_t pince = 0x04; // PD2
-constexpr std::uint8_t pinoe = 0x08; // PD3
-constexpr std::uint8_t pinwe = 0x10; // PD4
-constexpr std::uint8_t altas = 0x1F; // A8-A12 on PB0-PB4
-constexpr std::uint16_t pina = 0x39; // in the data space: I/O address 0x19
+constexpr std::uint8_t pince = 0x04;  // PD2
+constexpr std::uint8_t pinoe = 0x08;  // PD3
+constexpr std::uint8_t pinwe = 0x10;  // PD4
+constexpr std::uint8_t altas = 0x1F;  // A8-A12 on PB0-PB4
+constexpr std::uint8_t pina13 = 0x20; // PD5, to ZIF pin 26
+constexpr std::uint8_t pina14 = 0x40; // PD6, to ZIF pin 1
+constexpr std::uint16_t pina = 0x39;  // in the data space: I/O address 0x19
 constexpr char uart = '0';
 constexpr std::uint16_t ubrrl = 0x29; // I/O 0x09
 constexpr std::uint16_t ubrrh = 0x40; // I/O 0x20, shared with UCSRC
@@ -204,7 +206,12 @@ Patas PlacaSimulada::leerpatas() const
     patas.ce = nivel(d, pince);
     patas.oe = nivel(d, pinoe);
     patas.we = nivel(d, pinwe);
-    patas.direccion = static_cast<std::uint16_t>(c.port | ((b.port & altas) << 8));
+    // A pin left as an input drives nothing: the chip sees A13 or A14 only while driven.
+    const std::uint8_t conducidas = d.ddr & (pina13 | pina14);
+    patas.altas = static_cast<std::uint8_t>((conducidas & pina13 ? 1 : 0) | (conducidas & pina14 ? 2 : 0));
+    patas.direccion =
+        static_cast<std::uint16_t>(c.port | ((b.port & altas) << 8) | (d.port & conducidas & pina13 ? 1 << 13 : 0) |
+                                   (d.port & conducidas & pina14 ? 1 << 14 : 0));
     patas.datos = static_cast<std::uint8_t>(a.port & ddra);
     patas.conducidos = ddra;
     return patas;
