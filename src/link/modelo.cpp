@@ -5,15 +5,20 @@
 
 namespace eeprog {
 
-const Modelo* buscarmodelo(std::string_view nombre)
+bool nombra(std::string_view palabra, std::string_view nombre)
 {
-    const auto igual = [](std::string_view a, std::string_view b) {
-        return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+    const auto igual = [&](std::string_view a) {
+        return std::equal(a.begin(), a.end(), palabra.begin(), palabra.end(), [](char x, char y) {
             return std::toupper(static_cast<unsigned char>(x)) == std::toupper(static_cast<unsigned char>(y));
         });
     };
+    return igual(nombre) || (nombre.starts_with("AT") && igual(nombre.substr(2)));
+}
+
+const Modelo* buscarmodelo(std::string_view palabra)
+{
     for (const Modelo& modelo : modelos)
-        if (igual(nombre, modelo.nombre) || igual(nombre, std::string_view(modelo.nombre).substr(2)))
+        if (nombra(palabra, modelo.nombre))
             return &modelo;
     return nullptr;
 }

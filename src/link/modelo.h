@@ -23,7 +23,10 @@ inline constexpr Modelo modelos[] = {
 inline constexpr const Modelo& at28c64b = modelos[0];
 inline constexpr const Modelo& at28c256 = modelos[1];
 
-// The chip a user names, with or without the maker's "AT", in any case; null for none.
-const Modelo* buscarmodelo(std::string_view nombre);
+// Whether a user's word names a chip: its name with or without the maker's "AT", in any case.
+bool nombra(std::string_view palabra, std::string_view nombre);
+
+// The chip a user names; null for none.
+const Modelo* buscarmodelo(std::string_view palabra);
 
 } // namespace eeprog

@@ -1,7 +1,8 @@
 #include "chipmodelo.h"
 
+#include "link/modelo.h"
+
 #include <algorithm>
-#include <cctype>
 #include <cstdio>
 #include <limits>
 
@@ -68,15 +69,10 @@ std::string hexadecimal(unsigned valor, int cifras)
 
 } // namespace
 
-const TipoChip* buscartipo(std::string_view nombre)
+const TipoChip* buscartipo(std::string_view palabra)
 {
-    const auto igual = [](std::string_view a, std::string_view b) {
-        return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-            return std::toupper(static_cast<unsigned char>(x)) == std::toupper(static_cast<unsigned char>(y));
-        });
-    };
     for (const TipoChip& tipo : tiposchip)
-        if (igual(nombre, tipo.nombre) || igual(nombre, std::string_view(tipo.nombre).substr(2)))
+        if (nombra(palabra, tipo.nombre))
             return &tipo;
     return nullptr;
 }

@@ -41,8 +41,8 @@ inline constexpr TipoChip tiposchip[] = {
     {"AT28C64", 8192, 0x1555, 0x0AAA, true},
 };
 
-// The type a user names, with or without "AT", in any case; null for none.
-const TipoChip* buscartipo(std::string_view nombre);
+// The type a user names, as eeprog-cli's --chip takes it; null for none.
+const TipoChip* buscartipo(std::string_view palabra);
 
 // The chip as the microcontroller's pins see it, with time in nanoseconds from power-up:
 // whoever drives it tells it every change of its pins and lets its own time pass, and it
