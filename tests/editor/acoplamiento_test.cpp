@@ -33,7 +33,7 @@ TEST(Rejilla, RaisesEnterCellAndScrollOnlyOnARealChangeAndScrollsBeforeEntering)
     // clang-format off
     const std::pair<std::function<void(Rejilla&)>, const char*> filas[] = {
         {[](Rejilla& r) { r.Row(0), r.Col(0), r.Row(5), r.Col(2), r.Col(2); }, "EnterCell 5,0, EnterCell 5,2, at 5,2 5,2 0"},
-        {[](Rejilla& r) { r.pulsar(2, 1), r.arrastrar(6, 1), r.arrastrar(6, 3), r.soltar(6, 3); }, "EnterCell 2,1, at 2,1 6,3 0"},
+        {[](Rejilla& r) { r.pulsar(2, 1), r.arrastrar(6, 3), r.arrastrar(7, 3), r.soltar(7, 3); }, "EnterCell 2,1, at 2,1 7,3 0"},
         // Writing the current cell collapses a drag selection.
         {[](Rejilla& r) { r.pulsar(2, 1), r.arrastrar(6, 3), r.Row(2); }, "EnterCell 2,1, at 2,1 2,1 0"},
         {[](Rejilla& r) { r.TopRow(0), r.TopRow(40), r.TopRow(40), r.TopRow(500), r.TopRow(-3); },

@@ -48,6 +48,7 @@ TEST(LectorEstricto, ChecksEveryLineAndRefusesTheFirstAtFaultByItsNumber)
         {"record type S4", leertexto, "S4030000FC\n", "1: tipo de registro desconocido"},
         {"an S7 end record, its address four bytes", leertexto, "S1050010ABCD72\nS70500000000FA\n?\n", " 0010:ABCD"},
         {"an S-record that is its type alone", leertexto, "S1\n", "1: longitud errónea"},
+        {"an S1 record too short for its address", leertexto, "S10200FD\n", "1: longitud errónea"},
         {"a line without its mark", leertexto, ":0100000055AA\n0100010055A9\n", "2: falta la marca de registro"},
         {"nothing is read after the end record", leertexto, ":0100000055AA\n:00000001FF\n?\n", " 0000:55"},
         {"a file without data", leertexto, ":00000001FF\n", "0: el archivo no da ningún byte"},

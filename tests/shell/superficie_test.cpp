@@ -1,6 +1,7 @@
 #include "ventanaprueba.h"
 
 #include <fstream>
+#include <set>
 
 namespace eeprog::prueba {
 
@@ -72,6 +73,22 @@ TEST_F(SuperficieTest, EachButtonAndItsMenuEntryGiveTheSameResult)
             resultados[pormenu] = resultado();
         }
         EXPECT_TRUE(resultados[0] == resultados[1]) << entradas[boton];
+    }
+    placa = Placa{}, abrir();
+    clic(ventana->boton(2)); // LEER
+    EXPECT_EQ(ventana->StatusBar1().textopanel(1).toStdString(), "8192  Bytes leidos = 2000H");
+}
+
+// Each button shows its picture, enabled or not: far more colours than a bare frame has.
+TEST_F(SuperficieTest, EachButtonShowsItsPicture)
+{
+    for (int boton = 0; boton < 8; ++boton) {
+        const QImage imagen = ventana->boton(boton).grab().toImage();
+        std::set<QRgb> colores;
+        for (int y = 0; y < imagen.height(); ++y)
+            for (int x = 0; x < imagen.width(); ++x)
+                colores.insert(imagen.pixel(x, y));
+        EXPECT_GT(colores.size(), 8u) << boton;
     }
 }
 

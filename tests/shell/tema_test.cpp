@@ -21,8 +21,15 @@ TEST(TemaTest, ASkinFileGivesEachColourItsRoleFillsTheRestFromColourAndNothingWh
         // label, file, skin
         {"full",
          "; a comment\r\n\r\nnombre = Galaxy\r\ncolor = #A9B1DE\r\nventana=#2B3150\r\npanel = #464f7e\r\ntexto = "
-         "#E8EAF6\r\ntextopanel = #FFFFFF\r\nresalte = #7E57C2\r\ntextoresalte = #000000\r\nbrillo = 3\r\n",
-         {"Galaxy", {169, 177, 222}, {43, 49, 80}, {70, 79, 126}, {232, 234, 246}, blanco, {126, 87, 194}, negro}},
+         "#E8EAF6\r\ntextopanel = #FFFF00\r\nresalte = #7E57C2\r\ntextoresalte = #000000\r\nbrillo = 3\r\n",
+         {"Galaxy",
+          {169, 177, 222},
+          {43, 49, 80},
+          {70, 79, 126},
+          {232, 234, 246},
+          {255, 255, 0},
+          {126, 87, 194},
+          negro}},
         {"colour alone", "  color = #808080 \t\n", {"", gris, gris, gris, negro, negro, gris, negro}},
         {"dark window",
          "color = #DDF7E0\nventana = #7F7F7F\n",

@@ -118,6 +118,11 @@ TEST_F(VentanaTest, TheScrollBarAndTheGridsTopRowMoveTogetherAndAClickMakesACell
     EXPECT_EQ(std::tuple(c().fghex.Row(), c().fghex.Col(), entradas), std::tuple(302, 7, 1));
     QTest::keyClick(&v.fghex(), Qt::Key_End, Qt::ControlModifier); // and so does a key
     EXPECT_EQ(std::pair(c().fghex.Row(), c().fghex.Col()), std::pair(4095, 15));
+    // A grid given fewer rows has a bar that ends at its new last top row, and starts at 0.
+    c().fghex.Rows(100);
+    const QScrollBar& barra = *v.fghex().verticalScrollBar();
+    EXPECT_EQ(std::tuple(barra.minimum(), barra.maximum(), v.fghex().horizontalScrollBar()->minimum()),
+              std::tuple(0, c().fghex.maximotoprow(), 0));
 }
 
 TEST_F(VentanaTest, CellsAreDrawnWhereTheGridPutsThem)

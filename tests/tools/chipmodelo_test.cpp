@@ -94,15 +94,15 @@ TEST(ChipModelo, BrokenRulesAreFaults)
              return (chip.memoria()[0x0123] & 0x0F) == 0x0A && chip.memoria()[0x0123] != 0x5A;
          }},
         {"DataChanged40nsBeforeTheLatch",
-         "5000500 ns: dato cargado en 0x0123 con los bits 0x01 cambiados menos de 50 ns antes del flanco que lo "
+         "5000500 ns: dato cargado en 0x0123 con los bits 0x80 cambiados menos de 50 ns antes del flanco que lo "
          "captura; guarda cualquier cosa",
          [](ChipModelo& chip) {
              chip.cambiar({.ce = false, .direccion = 0x0123, .datos = 0x5A, .conducidos = 0xFF}, despierto);
              chip.cambiar({.ce = false, .we = false, .direccion = 0x0123, .datos = 0x5A, .conducidos = 0xFF},
                           despierto + 100);
-             chip.cambiar({.ce = false, .we = false, .direccion = 0x0123, .datos = 0x5B, .conducidos = 0xFF},
+             chip.cambiar({.ce = false, .we = false, .direccion = 0x0123, .datos = 0xDA, .conducidos = 0xFF},
                           despierto + 460);
-             chip.cambiar({.direccion = 0x0123, .datos = 0x5B, .conducidos = 0xFF}, despierto + 500);
+             chip.cambiar({.direccion = 0x0123, .datos = 0xDA, .conducidos = 0xFF}, despierto + 500);
              chip.avanzar(despierto + 2'000'000);
              return true;
          }},
@@ -156,12 +156,25 @@ TEST(ChipModelo, BrokenRulesAreFaults)
              chip.avanzar(cargar(chip, 4'000'000, 0x0123, 0x5A) + 2'000'000);
              return chip.memoria()[0x0123] == 0x77;
          }},
-        {"FuseWithBrownOutDetectionOff",
-         "0 ns: el fusible bajo 0xFF deja apagada la detección de caída de tensión; debe ser 0x3F (cristal externo, "
-         "caída de tensión a 4,0 V)",
+        {"WritePulseOf50ns", "5000150 ns: pulso de escritura de 50 ns en 0x0123, menos de 100 ns; no se carga",
          [](ChipModelo& chip) {
-             if (const auto falta = eeprog::revisarfusible(0xFF))
-                 chip.anotar(0, *falta);
+             chip.cambiar({.ce = false, .direccion = 0x0123, .datos = 0x5A, .conducidos = 0xFF}, despierto);
+             chip.cambiar({.ce = false, .we = false, .direccion = 0x0123, .datos = 0x5A, .conducidos = 0xFF},
+                          despierto + 100);
+             chip.cambiar({.ce = false, .direccion = 0x0123, .datos = 0x5A, .conducidos = 0xFF}, despierto + 150);
+             chip.cambiar({.direccion = 0x0123}, despierto + 200);
+             chip.avanzar(despierto + 2'000'000);
+             return chip.memoria()[0x0123] == 0x77;
+         }},
+        {"FuseWithBrownOutDetectionOffOrAt2_7V",
+         "0 ns: el fusible bajo 0xFF deja apagada la detección de caída de tensión; debe ser 0x3F (cristal externo, "
+         "caída de tensión a 4,0 V)\n"
+         "0 ns: el fusible bajo 0xBF pone la detección de caída de tensión en 2,7 V; debe ser 0x3F (cristal "
+         "externo, caída de tensión a 4,0 V)",
+         [](ChipModelo& chip) {
+             for (const std::uint8_t fusible : {0xFF, 0xBF})
+                 if (const auto falta = eeprog::revisarfusible(fusible))
+                     chip.anotar(0, *falta);
              // 16K cycles of 7.3728 MHz and 65 ms, with the brown-out detection on too (the firmware's fuse)
              return eeprog::arranque(0xFF, 7'372'800) == 67'222'222 && eeprog::arranque(0x3F, 7'372'800) == 67'222'222;
          }},
