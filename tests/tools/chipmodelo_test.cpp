@@ -1,3 +1,4 @@
+#include "averias.h"
 #include "chipmodelo.h"
 #include "fusibles.h"
 
@@ -218,6 +219,47 @@ TEST(ChipModelo, DrivingA13OrA14AgainstAnAT28C64IsAFault)
     ASSERT_EQ(chip.faltas().size(), 1u);
     EXPECT_EQ(chip.faltas().front(),
               "200 ns: A13 o A14 conducidas (0x2) con un AT28C64 en el zócalo: su pata 1 es la salida RDY/BUSY");
+}
+
+// The wires as each fault leaves them: the chip's pins when the microcontroller puts address
+// 0x1234 and data 0x5A, and what the microcontroller reads when the chip gives 0xC3.
+TEST(Cableado, EachFaultChangesTheLinesItNames)
+{
+    const struct {
+        const char* averia;
+        std::uint16_t direccion;
+        std::uint8_t escrito, leido;
+    } filas[] = {
+        {"A2=0", 0x1230, 0x5A, 0xC3},        {"A3=1", 0x123C, 0x5A, 0xC3},
+        {"A2=unida:A3", 0x1230, 0x5A, 0xC3}, {"A2=cruzada:A3", 0x1238, 0x5A, 0xC3},
+        {"D0=0", 0x1234, 0x5A, 0xC2},        {"D2=1", 0x1234, 0x5E, 0xC7},
+        {"D0=unida:D2", 0x1234, 0x5A, 0xC2}, {"D0=cruzada:D3", 0x1234, 0x53, 0xCA},
+    };
+    for (const auto& fila : filas) {
+        eeprog::Cableado cables({*eeprog::leeraveria(fila.averia)});
+        const auto chip = cables.alchip({.direccion = 0x1234, .datos = 0x5A, .conducidos = 0xFF});
+        EXPECT_EQ(std::tuple(chip.direccion, chip.datos, cables.almicro(0xC3, 0, 0)),
+                  std::tuple(fila.direccion, fila.escrito, fila.leido))
+            << fila.averia;
+    }
+    for (const char* mala : {"A15=0", "D8=1", "A2=unida:D2", "A2=cruzada:A2", "A2=rota", "A2"})
+        EXPECT_FALSE(eeprog::leeraveria(mala)) << mala;
+}
+
+// A cut line, and the bus of an empty socket, read as anything: both levels turn up.
+TEST(Cableado, ACutLineOrAnEmptySocketFloats)
+{
+    eeprog::Cableado cortada({*eeprog::leeraveria("D5=abierta"), *eeprog::leeraveria("A7=abierta")});
+    eeprog::Cableado vacio({}, true);
+    unsigned unos = 0, ceros = 0, altas = 0, vacios = 0;
+    for (int vez = 0; vez < 32; ++vez) {
+        const std::uint8_t leido = cortada.almicro(0xC3, 0, 0);
+        EXPECT_EQ(leido & 0xDF, 0xC3);
+        (leido & 0x20 ? unos : ceros) += 1;
+        altas += cortada.alchip({.direccion = 0x1234}).direccion >> 7 & 1;
+        vacios |= vacio.almicro(0xC3, 0, 0);
+    }
+    EXPECT_TRUE(unos > 0 && ceros > 0 && altas > 0 && altas < 32 && vacios == 0xFF);
 }
 
 } // namespace

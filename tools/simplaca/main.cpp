@@ -180,6 +180,7 @@ int main(int argc, char* argv[])
         return 1;
     }
     placa->oirmal(opciones->ruido);
+    placa->cablear(eeprog::Cableado(opciones->averias, opciones->sinchip));
     const int resultado = servir(*placa, chip, *opciones, eeprog::vigilarsenales({SIGINT, SIGTERM, SIGHUP}));
     // A write cycle under way finishes on the chip's own, as it would after the board stops.
     chip.avanzar(std::numeric_limits<std::int64_t>::max());

@@ -22,7 +22,9 @@ enum Clave {
     estado,
     ruido,
     tiempos,
-    chip
+    chip,
+    averia,
+    sinchip
 };
 
 const option claves[] = {
@@ -38,6 +40,8 @@ const option claves[] = {
     {"help", no_argument, nullptr, ayuda},
     {"chip-muerto", no_argument, nullptr, muerto},
     {"chip", required_argument, nullptr, chip},
+    {"averia", required_argument, nullptr, averia},
+    {"sin-chip", no_argument, nullptr, sinchip},
     {"estado", required_argument, nullptr, estado},
     {"ruido", required_argument, nullptr, ruido},
     {nullptr, 0, nullptr, 0},
@@ -75,6 +79,18 @@ bool tomar(int clave, const char* valor, Opciones& opciones)
         if (opciones.chip == nullptr)
             std::cerr << "eeprog-simplaca: --chip pide AT28C64B, AT28C256 o AT28C64: " << valor << '\n';
         return opciones.chip != nullptr;
+    case averia:
+        if (const auto leida = leeraveria(valor)) {
+            opciones.averias.push_back(*leida);
+            return true;
+        }
+        std::cerr << "eeprog-simplaca: --averia pide LINEA=abierta, =0, =1, =unida:LINEA o =cruzada:LINEA, con "
+                     "las líneas A0-A14 y D0-D7: "
+                  << valor << '\n';
+        return false;
+    case sinchip:
+        opciones.sinchip = true;
+        return true;
     case muerto:
         opciones.muerto = true;
         return true;
@@ -131,6 +147,11 @@ std::string usosimulada()
            "  --volcado ARCHIVO    guarda el chip entero al terminar\n"
            "  --chip MODELO        el chip del zócalo: AT28C64B (el de siempre), AT28C256,\n"
            "                       o AT28C64 (sin B), cuya pata 1 es su salida RDY/BUSY\n"
+           "  --averia LINEA=FALLO  rompe el cable de una línea entre el microcontrolador\n"
+           "                       y el zócalo (A0-A14, D0-D7): abierta, 0, 1 (pegada a\n"
+           "                       masa o a 5 V), unida:LINEA (en corto con otra) o\n"
+           "                       cruzada:LINEA (cambiada con otra); se repite\n"
+           "  --sin-chip           el zócalo vacío: el bus de datos flota\n"
            "  --protegido          el chip empieza con la protección de datos puesta\n"
            "  --ciclo MICROSEGUNDOS  duración del ciclo de escritura del chip (1000)\n"
            "  --faltas ARCHIVO     al terminar, escribe una línea por cada falta en el\n"

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "averias.h"
 #include "chipmodelo.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace eeprog {
 
@@ -20,8 +22,10 @@ struct Opciones {
     bool protegido = false;
     bool muerto = false;
     const TipoChip* chip = &tiposchip[0]; // what the socket holds
-    std::int64_t ciclo = 1000;            // the chip's write cycle, in microseconds
-    long ruido = 0;                       // the byte from the program heard with a framing error, from 1
+    std::vector<Averia> averias;          // the wiring's faults between the microcontroller and the socket
+    bool sinchip = false;
+    std::int64_t ciclo = 1000; // the chip's write cycle, in microseconds
+    long ruido = 0;            // the byte from the program heard with a framing error, from 1
     bool ayuda = false;
 };
 

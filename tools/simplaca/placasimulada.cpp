@@ -219,14 +219,15 @@ Patas PlacaSimulada::leerpatas() const
 
 void PlacaSimulada::cambiopatas()
 {
-    chip.cambiar(leerpatas(), ahora());
+    if (!cables.sinchip())
+        chip.cambiar(cables.alchip(leerpatas()), ahora());
 }
 
 // PINA shows the pins as they were a cycle before, for the port's synchronizer.
 std::uint8_t PlacaSimulada::leerbus(std::uint8_t puerto)
 {
     const std::int64_t pines = nanosegundos(avr->cycle > 0 ? avr->cycle - 1 : 0);
-    return static_cast<std::uint8_t>((puerto & ddra) | (chip.muestrear(pines) & ~ddra));
+    return cables.almicro(chip.muestrear(pines), puerto, ddra);
 }
 
 // simavr's receiver says xoff when its buffer is full and xon whenever it has room again.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "averias.h"
 #include "chipmodelo.h"
 
 #include <cstdint>
@@ -41,6 +42,8 @@ public:
     // The nth byte from the program, counted from 1 over the board's life, arrives with a
     // framing error, as noise on the line would leave it.
     void oirmal(long enesimo) { ruido = enesimo; }
+    // The wires between the microcontroller and the socket, with their faults.
+    void cablear(const Cableado& cableado) { cables = cableado; }
     // The firmware's bytes that have left the line since the last call: each takes ten bit
     // times from the moment the UART starts it.
     std::string tomarsalida();
@@ -67,6 +70,7 @@ private:
 
     avr_t* avr;
     ChipModelo& chip;
+    Cableado cables;
     // The chip's time when the core starts.
     std::int64_t encendido;
     std::uint8_t (*leerpina)(avr_t*, std::uint16_t, void*) = nullptr; // the port's own
