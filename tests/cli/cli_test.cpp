@@ -457,7 +457,9 @@ TEST_P(OrdenPlaca, ARunRightAfterAnInterruptedOneWritesOnlyItsOwnBytes)
 TEST_F(OrdenCli, AnInterruptedOrBrokenReadLeavesNoFileAndClosesThePort)
 {
     Emulador placa({"--ritmo"});
-    EXPECT_EQ(correr({"--puerto", placa.ruta(), "leer", "-o", carpeta + "/chip.hex"}, 500ms).estado, 130);
+    const Corrida cortada = correr({"--puerto", placa.ruta(), "leer", "-o", carpeta + "/chip.hex"}, 500ms);
+    EXPECT_EQ(cortada.errores + std::to_string(cortada.estado),
+              "eeprog-cli: interrumpido: el puerto queda cerrado y no se escribe ningún archivo\n130");
     EXPECT_FALSE(std::filesystem::exists(carpeta + "/chip.hex"));
     EXPECT_EQ(correr({"--puerto", placa.ruta(), "comprobar"}).estado, 0);
 

@@ -1,4 +1,5 @@
 #include "plataforma/informe.h"
+#include "shell/qt/cajamensajes.h"
 #include "shell/qt/dialogocomun.h"
 #include "ventanaprueba.h"
 
@@ -25,7 +26,8 @@ TEST_F(VentanaTest, OpensWithItsTitleAndABarThatStaysWithinItsEnds)
     EXPECT_TRUE(barra.maximum() > barra.minimum() && barra.value() == barra.minimum());
 }
 
-// Past what the box shows, the newest lines lie below until the user scrolls.
+// Past what the box shows, the newest lines lie below until the user scrolls, and what the
+// user selected stays selected.
 TEST_F(VentanaTest, ANewLogLineMovesNeitherTheViewNorTheCaret)
 {
     CajaInforme& log = ventana->txtinforme();
@@ -36,9 +38,24 @@ TEST_F(VentanaTest, ANewLogLineMovesNeitherTheViewNorTheCaret)
     QScrollBar& barra = *log.verticalScrollBar();
     EXPECT_EQ(std::pair(barra.value(), log.textCursor().position()), std::pair(0, 0));
     QTextCursor caret = log.textCursor();
-    caret.setPosition(10), log.setTextCursor(caret), barra.setValue(3);
+    caret.setPosition(5), caret.setPosition(10, QTextCursor::KeepAnchor), log.setTextCursor(caret), barra.setValue(3);
     informe.linea("... Programacion Concluida!!!");
-    EXPECT_EQ(std::pair(barra.value(), log.textCursor().position()), std::pair(3, 10));
+    EXPECT_EQ(std::tuple(barra.value(), log.textCursor().anchor(), log.textCursor().position()), std::tuple(3, 5, 10));
+}
+
+// A message box shows its text as it is, markup-like signs included, under its title, and
+// stays until Aceptar.
+TEST_F(VentanaTest, AMessageBoxShowsItsTextAsItIsUntilAccepted)
+{
+    QString visto;
+    QTimer::singleShot(0, [&] {
+        if (auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            visto = caja->windowTitle() + '|' + caja->text() + '|' + QString::number(caja->textFormat());
+            caja->accept();
+        }
+    });
+    CajaMensajes().mostrar({"Archivo <rom.hex>\r\nlinea 2", "Abrir", Icono::critico});
+    EXPECT_EQ(visto, QStringLiteral("Abrir|Archivo <rom.hex>\nlinea 2|0"));
 }
 
 // Tab and Shift+Tab ('<') pass by the overlay boxes and a disabled EDITADO.
@@ -114,8 +131,10 @@ TEST_F(VentanaTest, TheScrollBarAndTheGridsTopRowMoveTogetherAndAClickMakesACell
     c().fghex.TopRow(300); // brings row 302 into sight
     int entradas = 0;
     c().fghex.EnterCell = [&] { ++entradas; };
+    v.fgascii().setFocus();
     clic(c().fghex, 302, 7), clic(c().fghex, 302, 7);
     EXPECT_EQ(std::tuple(c().fghex.Row(), c().fghex.Col(), entradas), std::tuple(302, 7, 1));
+    EXPECT_EQ(QApplication::focusWidget(), &v.fghex()) << "the grid clicked takes the focus";
     QTest::keyClick(&v.fghex(), Qt::Key_End, Qt::ControlModifier); // and so does a key
     EXPECT_EQ(std::pair(c().fghex.Row(), c().fghex.Col()), std::pair(4095, 15));
     // A grid given fewer rows has a bar that ends at its new last top row, and starts at 0.

@@ -101,11 +101,10 @@ bool VistaCaja::event(QEvent* evento)
 // could act, KeyPress has cancelled it or moved the box on with its caret at the start.
 void VistaCaja::keyPressEvent(QKeyEvent* evento)
 {
+    // A key event comes accepted: returning takes it.
     if (evento->matches(QKeySequence::Paste) || evento->matches(QKeySequence::Undo) ||
-        evento->matches(QKeySequence::Redo)) {
-        evento->accept();
+        evento->matches(QKeySequence::Redo))
         return;
-    }
     // Ctrl keys are the menu's shortcuts or the box's own editing, never characters.
     const bool ctrl = evento->modifiers() & (Qt::ControlModifier | Qt::MetaModifier);
     const std::optional<char32_t> letra = ctrl ? std::nullopt : caracterdetecla(*evento);
