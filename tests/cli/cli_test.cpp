@@ -224,6 +224,7 @@ TEST_F(OrdenCli, AChangedByteAWrongEchoOrAnOlderBoardEndTheRunSayingWhy)
     EXPECT_EQ(eco.estado, 1);
     EXPECT_EQ(eco.salida.find("El dato transmitido 43 no se ha recibido correctamente: Direccion = 0012"), 0u)
         << eco.salida;
+    EXPECT_TRUE(eco.salida.ends_with("\n3 bytes grabados, 1 eco erróneo\n")) << eco.salida;
 }
 
 // On a terminal each order draws a bar named for what it does and ends it full, at the bytes

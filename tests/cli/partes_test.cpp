@@ -69,6 +69,7 @@ TEST(Opciones, EachOrderTakesItsOwnSettingsAndWrongUseSaysWhatIsWrong)
     EXPECT_EQ(interpretado({"leer", "--version"}), "0 eeprog-cli 2.0\n");
     const std::string ayuda = interpretado({"grabar", "--help"});
     EXPECT_EQ(ayuda.rfind("0 Uso: eeprog-cli", 0), 0u);
+    EXPECT_EQ(interpretado({"-h"}), ayuda);
     std::string estados;
     const std::regex estado("\n  ([0-9]+) +[a-z]");
     for (auto cada = std::sregex_iterator(ayuda.begin(), ayuda.end(), estado); cada != std::sregex_iterator(); ++cada)

@@ -36,9 +36,9 @@ TEST(TemaTest, ASkinFileGivesEachColourItsRoleFillsTheRestFromColourAndNothingWh
          {"", claro, oscuro, oscuro, blanco, blanco, oscuro, blanco}}};
     for (const auto& [nombre, texto, tema] : casos)
         EXPECT_EQ(leertema(texto), tema) << nombre;
-    for (const char* roto :
-         {"", "; only a comment\n", "nombre = Sin color\n", "color = DDF7E0\n", "color = #DDF7E\n", "color = #GGF7E0\n",
-          "color = #DDF7E0\nventana = azul\n", "color = #DDF7E0\nrojo y verde\n", "\x89PNG\r\n\x1a\n"})
+    for (const char* roto : {"", "; only a comment\n", "nombre = Sin color\n", "color = DDF7E0\n", "color = #DDF7E\n",
+                             "color = #GGF7E0\n", "color = #DDGGE0\n", "color = #DDF7E0\nventana = azul\n",
+                             "color = #DDF7E0\nrojo y verde\n", "\x89PNG\r\n\x1a\n"})
         EXPECT_FALSE(leertema(roto)) << "a file that breaks the rules gives nothing: " << roto;
 }
 

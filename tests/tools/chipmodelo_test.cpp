@@ -242,7 +242,7 @@ TEST(Cableado, EachFaultChangesTheLinesItNames)
                   std::tuple(fila.direccion, fila.escrito, fila.leido))
             << fila.averia;
     }
-    for (const char* mala : {"A15=0", "D8=1", "A2=unida:D2", "A2=cruzada:A2", "A2=rota", "A2"})
+    for (const char* mala : {"A15=0", "D8=1", "A1x=0", "A2=unida:D2", "A2=cruzada:A2", "A2=rota", "A2"})
         EXPECT_FALSE(eeprog::leeraveria(mala)) << mala;
 }
 
