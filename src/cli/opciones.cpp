@@ -27,6 +27,9 @@ línea de órdenes.
   vacio               dice si todo el chip está en FF
   desproteger         quita la protección de escritura del chip
   proteger            la pone (la placa graba a través de ella)
+  prueba              prueba las líneas de dirección y de datos entre la placa
+                      y el chip, y dice cuál falla y cómo; deja el chip como
+                      estaba
 
 Opciones:
   --puerto DISPOSITIVO  el puerto de la placa (si no, EEPROG_COM1 o /dev/ttyS0)
@@ -48,7 +51,8 @@ Opciones:
 
 Estado de salida:
   0    hecho, y el chip está como se pidió
-  1    el chip no está como se pidió: diferencias, ecos erróneos, no vacío
+  1    el chip no está como se pidió: diferencias, ecos erróneos, no vacío; o
+       prueba halló una línea que falla
   2    uso incorrecto
   3    un archivo que no se puede leer, se rechaza o no se puede escribir
   4    no hay placa: el dispositivo no se abre, o la placa no responde
@@ -74,7 +78,7 @@ const std::array<option, 14> largas{{
     {nullptr, 0, nullptr, 0},
 }};
 
-constexpr std::array<std::pair<std::string_view, Orden>, 8> ordenes{{
+constexpr std::array<std::pair<std::string_view, Orden>, 9> ordenes{{
     {"comprobar", Orden::comprobar},
     {"leer", Orden::leer},
     {"grabar", Orden::grabar},
@@ -83,6 +87,7 @@ constexpr std::array<std::pair<std::string_view, Orden>, 8> ordenes{{
     {"vacio", Orden::vacio},
     {"desproteger", Orden::desproteger},
     {"proteger", Orden::proteger},
+    {"prueba", Orden::prueba},
 }};
 
 Respuesta maluso(const std::string& motivo)

@@ -7,7 +7,7 @@
 
 namespace eeprog {
 
-enum class Orden { comprobar, leer, grabar, verificar, borrar, vacio, desproteger, proteger };
+enum class Orden { comprobar, leer, grabar, verificar, borrar, vacio, desproteger, proteger, prueba };
 enum class Formato { segunnombre, hex, bin };
 
 // What one run of eeprog-cli was asked to do.

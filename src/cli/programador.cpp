@@ -7,6 +7,7 @@
 #include "device/canallento.h"
 #include "device/canalrapido.h"
 #include "device/lectura.h"
+#include "device/pruebalineas.h"
 #include "device/verificacion.h"
 #include "link/conexion.h"
 #include "link/protocolo.h"
@@ -91,6 +92,8 @@ int Programador::ejecutar()
         return proteccion(false);
     case Orden::proteger:
         return proteccion(true);
+    case Orden::prueba:
+        return prueba();
     }
     return salida::uso;
 }
@@ -389,6 +392,26 @@ int Programador::proteccion(bool proteger)
             return salida::sinplaca;
         }
         resumen(proteger ? "Protección de escritura puesta" : "Protección de escritura quitada");
+        return salida::hecho;
+    });
+}
+
+// One line per fault; a board whose lines all behave says so and which lines it tried.
+int Programador::prueba()
+{
+    return conchip([this] {
+        const Modelo& modelo = *opciones_.modelo;
+        const Prueba hecha = probarlineas(*canal_, modelo, avance("Probando", bytesdeprueba(modelo)));
+        terminal_.progreso.terminar();
+        for (const std::string& averia : hecha.averias)
+            resultado(averia);
+        if (hecha.sinreponer > 0)
+            resultado(std::to_string(hecha.sinreponer) + " de los " + std::to_string(hecha.tocados) +
+                      " bytes que tocó la prueba no han quedado como estaban");
+        if (!hecha.averias.empty() || hecha.sinreponer > 0)
+            return salida::distinto;
+        resumen("Las líneas A0-A" + std::to_string(modelo.lineas - 1) + " y D0-D7 responden bien; los " +
+                std::to_string(hecha.tocados) + " bytes probados están como estaban");
         return salida::hecho;
     });
 }

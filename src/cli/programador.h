@@ -43,6 +43,7 @@ private:
     int borrar();
     int vacio();
     int proteccion(bool proteger);
+    int prueba();
 
     int grabarcambios(const std::vector<Trama>& tramas);
 
