@@ -359,6 +359,7 @@ int Programador::escribir(const std::vector<Trama>& tramas, const std::string& a
         return salida::hecho;
     }
     resultado(hecho + ", " + cuenta(ecos.size(), "eco erróneo", "ecos erróneos"));
+    senalarlinea(ecos);
     return salida::distinto;
 }
 
@@ -381,7 +382,18 @@ std::vector<Diferencia> Programador::diferencias(const std::vector<Trama>& trama
         resumen(total);
     else
         resultado(total);
+    senalarlinea(halladas);
     return halladas;
+}
+
+// Bytes wrong in one bit alone, the same everywhere, are more likely the board's wire than the
+// chip's cells.
+void Programador::senalarlinea(const std::vector<Diferencia>& diferencias)
+{
+    const int linea = lineacomun(diferencias);
+    if (linea >= 0)
+        error("todas las diferencias están en el bit " + std::to_string(linea) + ": puede ser la línea D" +
+              std::to_string(linea) + " de la placa, que eeprog-cli prueba comprueba");
 }
 
 int Programador::proteccion(bool proteger)

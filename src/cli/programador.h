@@ -56,6 +56,7 @@ private:
     int escribir(const std::vector<Trama>& tramas, const std::string& accion);
     int comparar(const std::vector<Trama>& tramas);
     std::vector<Diferencia> diferencias(const std::vector<Trama>& tramas);
+    void senalarlinea(const std::vector<Diferencia>& diferencias);
     int guardar(const std::string& texto);
     int tamano() const { return opciones_.modelo->tamano; }
 

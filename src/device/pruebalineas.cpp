@@ -309,6 +309,18 @@ Prueba probarlineas(Canal& canal, const Modelo& modelo, const Avance& avance)
     return Probador(canal, modelo, avance).probar();
 }
 
+int lineacomun(const std::vector<Diferencia>& diferencias)
+{
+    if (diferencias.size() < 2)
+        return -1;
+    const int primera = (diferencias.front().esperado ^ diferencias.front().obtenido) & 0xFF;
+    const bool todas = std::all_of(diferencias.begin(), diferencias.end(),
+                                   [&](const Diferencia& d) { return ((d.esperado ^ d.obtenido) & 0xFF) == primera; });
+    return todas && std::has_single_bit(static_cast<unsigned>(primera))
+               ? std::countr_zero(static_cast<unsigned>(primera))
+               : -1;
+}
+
 int bytesdeprueba(const Modelo& modelo)
 {
     const int recorridas = 2 * modelo.lineas + 2;

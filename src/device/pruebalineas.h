@@ -23,6 +23,10 @@ struct Prueba {
 // back at the end.
 Prueba probarlineas(Canal& canal, const Modelo& modelo, const Avance& avance);
 
+// The data line in which every one of two or more differences lies, alone: -1 when there is
+// none.
+int lineacomun(const std::vector<Diferencia>& diferencias);
+
 // The bytes the test moves at most, for a progress bar.
 int bytesdeprueba(const Modelo& modelo);
 

@@ -144,6 +144,70 @@ TEST_P(Placa256, IsReadProgrammedAndUnprotected)
     EXPECT_EQ(leer("estado"), "desprotegido\n");
 }
 
+// The board's test of its own wiring, on the simulated board: a line broken each way in each
+// group, by either protocol and with the 28C256's high lines, two lines joined, two swapped
+// across the page's lines, an empty socket, a dead chip. Each is named on a line of its own.
+// A healthy board, with its chip protected or not, passes and leaves every byte as it was.
+class PruebaPlaca : public OrdenPlaca {};
+
+INSTANTIATE_TEST_SUITE_P(, PruebaPlaca, testing::Values(Tablero{"simulada", EEPROG_SIMPLACA}),
+                         [](const auto& info) { return std::string(info.param.nombre); });
+
+TEST_P(PruebaPlaca, NamesTheLineAtFaultAndLeavesAHealthyBoardsChipAsItWas)
+{
+    Chip chip;
+    azar(chip, 31);
+    const std::string antes = imagen(chip);
+    const struct {
+        std::vector<std::string> placa;
+        std::string dicho;
+        std::vector<std::string> cli = {};
+    } averias[] = {
+        {{"--averia", "A2=0"}, "A2: atascada a 0 o a 1 (el chip no la ve cambiar)\n"},
+        {{"--averia", "A11=1"}, "A11: atascada a 0 o a 1 (el chip no la ve cambiar)\n", {"--lento"}},
+        {{"--averia", "A1=abierta"}, "A1: cortada (el chip la toma al azar)\n"},
+        {{"--averia", "A10=abierta"}, "A10: cortada (el chip la toma al azar)\n", {"--lento"}},
+        {{"--averia", "D6=0"}, "D6: atascada a 0\n"},
+        {{"--averia", "D1=1"}, "D1: atascada a 1\n", {"--lento"}},
+        {{"--averia", "D3=abierta"}, "D3: cortada (se lee al azar)\n"},
+        {{"--averia", "A7=unida:A8"}, "A7: unida a A8\n"},
+        {{"--averia", "D5=unida:D4"}, "D4: unida a D5\n"},
+        {{"--averia", "A3=cruzada:A9"}, "A3: llega al chip como una línea de página, cruzada con una de A6-A12\n"},
+        {{"--chip", "AT28C256", "--averia", "A14=0"},
+         "A14: atascada a 0 o a 1 (el chip no la ve cambiar)\n",
+         {"--chip", "AT28C256"}},
+        {{"--sin-chip"}, "no hay chip en el zócalo: el bus de datos flota\n"},
+        {{"--chip-muerto"}, "el chip no guarda nada, ni por una escritura protegida: se lee siempre"},
+    };
+    for (const auto& averia : averias) {
+        auto opciones = averia.placa;
+        opciones.insert(opciones.end(), {"--imagen", antes});
+        const auto tablero = placa(opciones);
+        auto palabras = averia.cli;
+        palabras.push_back("prueba");
+        const Corrida corrida = orden(*tablero, palabras);
+        EXPECT_EQ(corrida.estado, 1) << averia.dicho;
+        EXPECT_EQ(corrida.salida.substr(0, averia.dicho.size()), averia.dicho) << corrida.salida;
+        ASSERT_EQ(tablero->terminar(), 0);
+    }
+    for (const bool protegido : {false, true}) {
+        for (const char* protocolo : {"--lento", "-v"}) {
+            std::vector<std::string> opciones{
+                "--imagen", antes, "--volcado", carpeta + "/volcado.bin", "--estado", carpeta + "/estado"};
+            if (protegido)
+                opciones.push_back("--protegido");
+            const auto tablero = placa(opciones);
+            const Corrida corrida = correr({"--puerto", tablero->ruta(), protocolo, "prueba"});
+            EXPECT_EQ(corrida.estado, 0) << corrida.salida << corrida.errores;
+            EXPECT_EQ(corrida.salida, "Las líneas A0-A12 y D0-D7 responden bien; los 30 bytes probados están como "
+                                      "estaban\n");
+            terminar(*tablero);
+            EXPECT_EQ(leer("volcado.bin"), leer("imagen.bin")) << protegido << protocolo;
+            EXPECT_EQ(leer("estado"), protegido ? "protegido\n" : "desprotegido\n");
+        }
+    }
+}
+
 // Every shape of file leaves on the chip the bytes it gives, and nothing else, by the fast
 // protocol and by the old one: the rest of the chip, and of the pages the file touches,
 // keeps what it had. The whole chip by the old protocol is tried on the emulator alone,

@@ -2,6 +2,7 @@
 #include "device/grabacion.h"
 #include "device/grabaredit.h"
 #include "device/lectura.h"
+#include "device/pruebalineas.h"
 #include "device/tramas.h"
 #include "device/verificacion.h"
 #include "pantallafalsa.h"
@@ -182,6 +183,17 @@ TEST(Grabaredit, SendsEveryRowUpToTheHighestEditedAndTheLogCountsItsBytes)
     EXPECT_EQ(std::pair(banco.barra.tope, banco.barra.actual), std::pair(9616.0, 9616.0));
     // The log's count takes an edit of row 0 alone for none, as filaeditada starts at 0.
     EXPECT_EQ(std::pair(bytesgrabados(0), bytesgrabados(600)), std::pair(0, 9616));
+}
+
+// Two or more bytes wrong in the same one bit name that data line; one byte, or bytes wrong
+// in other bits or in two, name none.
+TEST(Pruebalineas, DifferencesThatAllLieInOneBitNameThatDataLine)
+{
+    EXPECT_EQ(lineacomun({{0x10, 0x00, 0x10}, {0x1FFF, 0xEF, 0xFF}}), 4);
+    EXPECT_EQ(lineacomun({{0x10, 0x00, 0x80}, {0x11, 0x81, 0x01}, {0x12, 0x7F, 0xFF}}), 7);
+    EXPECT_EQ(lineacomun({{0x10, 0x00, 0x10}}), -1);
+    EXPECT_EQ(lineacomun({{0x10, 0x00, 0x10}, {0x11, 0x00, 0x20}}), -1);
+    EXPECT_EQ(lineacomun({{0x10, 0x00, 0x30}, {0x11, 0x00, 0x30}}), -1);
 }
 
 } // namespace
