@@ -206,6 +206,14 @@ TEST_P(PruebaPlaca, NamesTheLineAtFaultAndLeavesAHealthyBoardsChipAsItWas)
             EXPECT_EQ(leer("estado"), protegido ? "protegido\n" : "desprotegido\n");
         }
     }
+    // With D4 tied high a verify's differences all lie in bit 4; the chip did change, though.
+    const auto atada = placa({"--averia", "D4=1"});
+    const Corrida grabada = orden(*atada, {"grabar", "--verificar", antes});
+    EXPECT_EQ(grabada.estado, 1);
+    EXPECT_EQ(grabada.errores,
+              "eeprog-cli: todas las diferencias están en el bit 4: puede ser la línea D4 de la placa, "
+              "que eeprog-cli prueba comprueba\n");
+    ASSERT_EQ(atada->terminar(), 0);
 }
 
 // Every shape of file leaves on the chip the bytes it gives, and nothing else, by the fast
@@ -311,6 +319,9 @@ TEST_F(OrdenCli, OnATerminalEachOrderEndsItsBarAtTheBytesItMoved)
         {"grabar --solo-cambios " + archivo,
          {"\rLeyendo     [" + lleno + "]  8192/8192 bytes", "\rGrabando    [" + lleno + "]    64/64 bytes"}},
         {"borrar", {"\rBorrando    [" + lleno + "]  8192/8192 bytes"}},
+        // 30 bytes read, 16 patterns written and read twice, two walks of 28 addresses written and
+        // read three times, the 30 bytes compared, put back and checked.
+        {"prueba", {"\rProbando    [" + lleno + "]   392/392 bytes"}},
     };
     Emulador placa;
     for (const auto& fila : filas) {
@@ -326,6 +337,7 @@ TEST_F(OrdenCli, OnATerminalEachOrderEndsItsBarAtTheBytesItMoved)
             desde = dibujado.find(barra, desde);
             EXPECT_NE(desde, std::string::npos) << barra << " in " << dibujado;
         }
+        EXPECT_EQ(dibujado.back(), '\n');
     }
 }
 
