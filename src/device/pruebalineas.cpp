@@ -98,11 +98,17 @@ public:
         auto tocadas = direcciones;
         tocadas.push_back(modelo_.clave1);
         tocadas.push_back(modelo_.clave2);
-        const auto guardados = leer(tocadas);
+        auto guardados = leer(tocadas);
         Prueba prueba;
-        prueba.tocados = static_cast<int>(tocadas.size());
-        if (probardatos(guardados.front(), prueba.averias))
+        if (probardatos(guardados.front(), prueba.averias)) {
             probardirecciones(direcciones, guardados, prueba.averias);
+        } else {
+            // Only address 0 and the sequence's were written: the rest, read through a data
+            // line at fault, is best left alone.
+            tocadas = {tocadas.front(), modelo_.clave1, modelo_.clave2};
+            guardados = {guardados.front(), guardados[guardados.size() - 2], guardados.back()};
+        }
+        prueba.tocados = static_cast<int>(tocadas.size());
         if (!sinchip_)
             prueba.sinreponer = reponer(tocadas, guardados);
         return prueba;
