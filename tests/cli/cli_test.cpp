@@ -191,7 +191,7 @@ TEST_P(PruebaPlaca, NamesTheLineAtFaultAndLeavesAHealthyBoardsChipAsItWas)
         ASSERT_EQ(tablero->terminar(), 0);
     }
     for (const bool protegido : {false, true}) {
-        for (const char* protocolo : {"--lento", "-v"}) {
+        for (const char* protocolo : {"--lento", "-v"}) { // -v: the fast one, said on standard error
             std::vector<std::string> opciones{
                 "--imagen", antes, "--volcado", carpeta + "/volcado.bin", "--estado", carpeta + "/estado"};
             if (protegido)
@@ -337,7 +337,7 @@ TEST_F(OrdenCli, OnATerminalEachOrderEndsItsBarAtTheBytesItMoved)
             desde = dibujado.find(barra, desde);
             EXPECT_NE(desde, std::string::npos) << barra << " in " << dibujado;
         }
-        EXPECT_EQ(dibujado.back(), '\n');
+        EXPECT_TRUE(dibujado.ends_with('\n'));
     }
 }
 
