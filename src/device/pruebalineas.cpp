@@ -58,6 +58,11 @@ std::vector<int> marcas(std::size_t cuantas, int primera)
     return lista;
 }
 
+std::string linea(char grupo, long numero)
+{
+    return grupo + std::to_string(numero);
+}
+
 int bit(int valor, int numero)
 {
     return valor >> numero & 1;
@@ -80,7 +85,7 @@ std::string comodato(int numero, const std::vector<int>& esperados, const std::v
         return "atascada a 1";
     for (int otra = 0; otra < 8; ++otra)
         if (otra != numero && cumple([&](int v) { return bit(v, numero) & bit(v, otra); }))
-            return "unida a D" + std::to_string(otra);
+            return "unida a " + linea('D', otra);
     return "no da lo que se le escribe";
 }
 
@@ -187,7 +192,7 @@ private:
                                                              : comodato(numero, esperados, leidos);
             const bool dicha = como.starts_with("unida") && como.back() - '0' < numero; // by the other line
             if (!como.empty() && !dicha)
-                averias.push_back("D" + std::to_string(numero) + ": " + como);
+                averias.push_back(linea('D', numero) + ": " + como);
         }
         return false;
     }
@@ -251,16 +256,15 @@ private:
                     if (bit(x ^ y, k))
                         lineas.insert(k);
         if (lineas.size() == 2)
-            averias.push_back("A" + std::to_string(*lineas.begin()) + ": unida a A" + std::to_string(*lineas.rbegin()));
+            averias.push_back(linea('A', *lineas.begin()) + ": unida a " + linea('A', *lineas.rbegin()));
         else
             for (int k : lineas)
-                averias.push_back("A" + std::to_string(k) + ": atascada a 0 o a 1 (el chip no la ve cambiar)");
+                averias.push_back(linea('A', k) + ": atascada a 0 o a 1 (el chip no la ve cambiar)");
         const int bajas = std::countr_zero(static_cast<unsigned>(modelo_.pagina));
         for (int k = 0; k < bajas; ++k)
             if (una.perdidas.count(1 << k) != 0 && otra.perdidas.count(1 << k) != 0)
-                averias.push_back("A" + std::to_string(k) +
-                                  ": llega al chip como una línea de página, cruzada con una de A" +
-                                  std::to_string(bajas) + "-A" + std::to_string(modelo_.lineas - 1));
+                averias.push_back(linea('A', k) + ": llega al chip como una línea de página, cruzada con una de " +
+                                  linea('A', bajas) + "-" + linea('A', modelo_.lineas - 1));
     }
 
     // Where a line is cut the chip's writes go astray, and the bytes seen are mostly those
@@ -281,7 +285,7 @@ private:
         std::vector<std::string> lineas;
         for (std::size_t k = 0; k < n; ++k)
             if (mismas(0, 1 + k) || mismas(1 + n, 2 + n + k))
-                lineas.push_back("A" + std::to_string(k));
+                lineas.push_back(linea('A', static_cast<long>(k)));
         if (lineas.size() != 1)
             return "una línea de dirección cortada: una misma dirección se lee distinta cada vez";
         return lineas.front() + ": cortada (el chip la toma al azar)";

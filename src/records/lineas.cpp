@@ -1,8 +1,9 @@
 #include "records/lineas.h"
 
+#include "records/hexadecimal.h"
+
 #include <algorithm>
 #include <climits>
-#include <cstdio>
 
 namespace eeprog {
 
@@ -44,13 +45,10 @@ Rechazo rechazo(int linea, Falta falta, int tamano)
         "suma de verificación errónea", "tipo de registro desconocido", "dato fuera de 0000-",
         "el archivo no da ningún byte", "la imagen pasa de ",           "no es Intel HEX ni S-record"};
     std::string motivo = motivos[static_cast<int>(falta)];
-    if (falta == Falta::fuera) {
-        char ultima[8];
-        std::snprintf(ultima, sizeof ultima, "%04X", tamano - 1);
-        motivo += ultima;
-    } else if (falta == Falta::grande) {
+    if (falta == Falta::fuera)
+        motivo += cuatrocifras(tamano - 1);
+    else if (falta == Falta::grande)
         motivo += std::to_string(tamano) + " bytes";
-    }
     return {linea, motivo};
 }
 
