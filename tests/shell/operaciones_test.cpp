@@ -2,6 +2,10 @@
 #include "ordencli.h"
 #include "link/qt/puertoserie.h"
 
+#include <fcntl.h>
+#include <stdlib.h>
+#include <unistd.h>
+
 #include <thread>
 
 namespace eeprog::prueba {
@@ -109,6 +113,22 @@ TEST(PuertoSerieTest, ASilentBoardOrAMissingDeviceGivesUpAfterTheWholeBudget)
         EXPECT_EQ(enlace.intercambio("c"), "Error") << ruta;
         EXPECT_GE(std::chrono::steady_clock::now() - antes, std::chrono::milliseconds(100)) << ruta;
     }
+}
+
+// A fast read killed in the middle leaves the board two requests of four 134-byte blocks to
+// send, 1072 bytes, which wait in the terminal for the next run: one read takes them all.
+TEST(PuertoSerieTest, OneReadTakesAllThatWaitsEvenMoreThanAKilobyte)
+{
+    const int maestro = posix_openpt(O_RDWR | O_NOCTTY);
+    ASSERT_TRUE(maestro >= 0 && grantpt(maestro) == 0 && unlockpt(maestro) == 0);
+    PuertoSerie puerto(ptsname(maestro));
+    ASSERT_TRUE(puerto.abrir());
+    const std::string bloques(1072, '\x6C');
+    ASSERT_EQ(write(maestro, bloques.data(), bloques.size()), 1072);
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    EXPECT_EQ(puerto.leer().size(), 1072u);
+    puerto.cerrar();
+    close(maestro);
 }
 
 } // namespace

@@ -93,15 +93,21 @@ void PuertoSerie::escribir(const std::string& datos)
 }
 
 // Without an event loop the port's buffer fills only when asked: a wait of 0 ms takes in
-// whatever the system already holds.
+// whatever the system already holds, up to the buffer's size. A fast session cut short
+// leaves more than that for the next run (two requests of blocks), so a full buffer is
+// emptied and filled again until the system has no more.
 std::string PuertoSerie::leer()
 {
-    if (!puerto_.isOpen())
-        return {};
-    if (puerto_.bytesAvailable() == 0)
-        puerto_.waitForReadyRead(0);
-    const QByteArray llegado = puerto_.readAll();
-    return std::string(llegado.constData(), static_cast<std::size_t>(llegado.size()));
+    std::string llegado;
+    qint64 tomados = bufferentrada;
+    while (puerto_.isOpen() && tomados >= bufferentrada) {
+        if (puerto_.bytesAvailable() == 0)
+            puerto_.waitForReadyRead(0);
+        const QByteArray parte = puerto_.readAll();
+        llegado.append(parte.constData(), static_cast<std::size_t>(parte.size()));
+        tomados = parte.size();
+    }
+    return llegado;
 }
 
 // Waits on the port itself, so a reply is taken as soon as it is in rather than at the
