@@ -392,15 +392,17 @@ TEST_P(OrdenPlaca, AfterAFastSessionWholeOrCutTheOldProtocolFindsTheBoardIdle)
     const auto tablero = placa(opciones);
     const std::string lineas = lineashex(chip);
     const std::string primera = escribir(lineas.substr(0, lineas.find('\n') + 1), "primera.hex");
-    const auto antiguo = [&] {
-        EXPECT_EQ(correr({"--puerto", tablero->ruta(), "comprobar"}).estado, 0);
+    const auto antiguo = [&](const char* despues) {
+        SCOPED_TRACE(despues);
+        const Corrida comprobada = correr({"--puerto", tablero->ruta(), "comprobar"});
+        EXPECT_EQ(comprobada.estado, 0) << comprobada.errores;
         EXPECT_EQ(orden(*tablero, {"--lento", "verificar", primera}).estado, 0);
     };
     EXPECT_EQ(orden(*tablero, {"leer", "--formato", "bin"}).salida, std::string(chip.begin(), chip.end()));
-    antiguo();
+    antiguo("after a whole fast session");
     EXPECT_EQ(correr({"--puerto", tablero->ruta(), "leer", "-o", carpeta + "/chip.hex"}, 300ms, SIGKILL).estado,
               128 + SIGKILL);
-    antiguo();
+    antiguo("after a session killed in the middle");
     terminar(*tablero);
 }
 
