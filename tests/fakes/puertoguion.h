@@ -18,6 +18,7 @@ struct PuertoGuion : Puerto, Grabador {
 
     bool abiertoahora = false;
     int lecturas = 0;
+    int pausas = 0;
     std::vector<std::pair<int, std::string>> pendientes; // the read they arrive at, and the bytes
 
     bool abrir() override { return abiertoahora = anotar("abrir", true); }
@@ -36,7 +37,11 @@ struct PuertoGuion : Puerto, Grabador {
         std::erase_if(pendientes, [&](const auto& p) { return p.first <= lecturas && (llegado += p.second, true); });
         return anotar("leer", llegado);
     }
-    void esperar(int milisegundos) override { anotar("esperar " + std::to_string(milisegundos)); }
+    void esperar(int milisegundos) override
+    {
+        ++pausas;
+        anotar("esperar " + std::to_string(milisegundos));
+    }
 };
 
 } // namespace eeprog::prueba

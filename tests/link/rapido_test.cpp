@@ -26,7 +26,7 @@ TEST(Rapido, TheCrcIsXmodemsAndEndsEachFrameHighByteFirst)
 struct EnlaceRapidoTest : ::testing::Test {
     PuertoGuion puerto;
     EnlaceRapido enlace{puerto};
-    int esperas() const { return puerto.lecturas; }
+    int esperas() const { return puerto.pausas; }
 };
 
 // The question costs one reply's budget at most: an older board echoes it, a silent one
@@ -37,7 +37,7 @@ TEST_F(EnlaceRapidoTest, OnlyAVAndItsVersionAnswerTheQuestion)
         {"V\1", 1}, {"v", std::nullopt}, {"", std::nullopt}, {"V", std::nullopt}};
     for (const auto& [dicho, version] : respuestas) {
         puerto.pendientes.clear();
-        puerto.lecturas = 0;
+        puerto.lecturas = puerto.pausas = 0;
         puerto.llegara(dicho, 3);
         EXPECT_EQ(enlace.preguntar(), version) << dicho;
         EXPECT_LE(esperas(), dicho == "V\1" ? 3 : 103) << dicho;
